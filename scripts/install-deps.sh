@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# Installs the Debian packages Tessarine builds and runs with; skips what is present.
+set -euo pipefail
+pkgs=(build-essential cmake ninja-build ccache
+      qt6-base-dev qt6-qpa-plugins libqscintilla2-qt6-dev
+      libtidy-dev libhunspell-dev hunspell-en-us
+      libgtest-dev libbenchmark-dev)
+missing=()
+for p in "${pkgs[@]}"; do
+  dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+sudo=""
+[ "$(id -u)" -ne 0 ] && sudo="sudo"
+export DEBIAN_FRONTEND=noninteractive
+$sudo apt-get update -qq
+$sudo apt-get install -y -qq --no-install-recommends "${missing[@]}"

@@ -1,0 +1,105 @@
+#include "platform/BufferEdit.h"
+
+#include <algorithm>
+
+namespace tessarine {
+
+std::string BufferEdit::TextRange(Pos start, Pos length) const {
+  start = std::clamp<Pos>(start, 0, Length());
+  length = std::clamp<Pos>(length, 0, Length() - start);
+  return text_.substr(static_cast<size_t>(start), static_cast<size_t>(length));
+}
+
+void BufferEdit::SetText(std::string_view bytes) {
+  text_.assign(bytes);
+  styles_.assign(text_.size(), baseStyle_);
+  selStart_ = selLength_ = 0;
+  insertionStyleSet_ = false;
+  undo_.clear();
+  NotifyChanged();
+}
+
+void BufferEdit::SetSelStart(Pos start) {
+  if (start < 0) return;
+  selStart_ = std::min(start, Length());
+  selLength_ = 0;
+}
+
+void BufferEdit::SetSelLength(Pos length) {
+  if (length < 0) return;
+  selLength_ = std::min(length, Length() - selStart_);
+}
+
+std::string BufferEdit::SelText() const { return TextRange(selStart_, selLength_); }
+
+void BufferEdit::SetInsertionStyle(Style style) {
+  insertionStyle_ = style;
+  insertionStyleSet_ = true;
+  insertionStylePos_ = selStart_;
+}
+
+Style BufferEdit::InsertionStyle() const {
+  if (insertionStyleSet_ && insertionStylePos_ == selStart_) return insertionStyle_;
+  return selStart_ > 0 ? styles_[static_cast<size_t>(selStart_ - 1)] : baseStyle_;
+}
+
+void BufferEdit::Replace(Pos start, Pos length, std::string_view bytes, bool recordUndo) {
+  const Style style = insertionStyleSet_ && insertionStylePos_ == start && start == selStart_
+                          ? insertionStyle_
+                      : start > 0 ? styles_[static_cast<size_t>(start - 1)]
+                                  : baseStyle_;
+  const auto s = static_cast<size_t>(start), l = static_cast<size_t>(length);
+  if (recordUndo) undo_.push_back({start, text_.substr(s, l), static_cast<Pos>(bytes.size())});
+  text_.replace(s, l, bytes);
+  styles_.erase(styles_.begin() + static_cast<std::ptrdiff_t>(s),
+                styles_.begin() + static_cast<std::ptrdiff_t>(s + l));
+  styles_.insert(styles_.begin() + static_cast<std::ptrdiff_t>(s), bytes.size(), style);
+  NotifyChanged();
+}
+
+void BufferEdit::ReplaceSel(std::string_view bytes) {
+  Replace(selStart_, selLength_, bytes, true);
+  selStart_ += static_cast<Pos>(bytes.size());
+  selLength_ = 0;
+}
+
+void BufferEdit::ReplaceRange(Pos start, Pos length, std::string_view bytes) {
+  start = std::clamp<Pos>(start, 0, Length());
+  length = std::clamp<Pos>(length, 0, Length() - start);
+  const Pos caret = selStart_;
+  Replace(start, length, bytes, true);
+  // Keep the caret on the same text where it can.
+  const Pos delta = static_cast<Pos>(bytes.size()) - length;
+  if (caret >= start + length) selStart_ = caret + delta;
+  else if (caret > start) selStart_ = start;
+  selLength_ = 0;
+}
+
+void BufferEdit::SetStyles(Pos start, const Style* styles, Pos count) {
+  start = std::clamp<Pos>(start, 0, Length());
+  count = std::clamp<Pos>(count, 0, Length() - start);
+  std::copy(styles, styles + count, styles_.begin() + static_cast<std::ptrdiff_t>(start));
+}
+
+void BufferEdit::FillStyle(Pos start, Pos count, Style style) {
+  start = std::clamp<Pos>(start, 0, Length());
+  count = std::clamp<Pos>(count, 0, Length() - start);
+  std::fill_n(styles_.begin() + static_cast<std::ptrdiff_t>(start), count, style);
+}
+
+Style BufferEdit::StyleAt(Pos pos) const {
+  if (pos < 0 || pos >= Length()) return 0;
+  return styles_[static_cast<size_t>(pos)];
+}
+
+void BufferEdit::Undo() {
+  if (undo_.empty()) return;
+  const UndoStep step = undo_.back();
+  undo_.pop_back();
+  selStart_ = step.start;
+  selLength_ = 0;
+  Replace(step.start, step.insertedLength, step.removed, false);
+  selStart_ = step.start + static_cast<Pos>(step.removed.size());
+}
+
+}  // namespace tessarine
