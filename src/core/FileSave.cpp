@@ -1,0 +1,143 @@
+#include "core/FileSave.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <filesystem>
+
+#include "core/Application.h"
+#include "core/Documents.h"
+#include "platform/DocumentWindow.h"
+#include "platform/EditControl.h"
+#include "platform/FileDialogs.h"
+#include "platform/Frame.h"
+#include "platform/MessageBoxes.h"
+
+namespace tessarine {
+
+const char* const kOpenSaveFilter =
+    "All Files (*.*)|*.*|Web page files (*.html, *.htm, *.shtml, *.asp)|*.html;*.htm;*.shtml;"
+    "*.asp|HTML Files (*.htm, *.html, *.shtml)|*.htm;*.html;*.shtml|ASP Files (*.asp)|*.asp|CGI "
+    "Files (*.cgi, *.pl)|*.cgi;*.pl|Cascading Style Sheets (*.css)|*.css|Cold Fusion Files "
+    "(*.cfm)|*.cfm|JavaScript Files (*.js)|*.js|XML Files (*.dtd, *.xml, *.xsl)|*.dtd;*.xml;*."
+    "xsl|Tessarine Template (*.tzt)|*.tzt|Text Files (*.txt)|*.txt";
+
+std::string SaveAsDialog(Application& app) {
+  FileDialogRequest r;
+  r.title = "Save As";
+  r.filter = kOpenSaveFilter;
+  r.filterIndex = 2;
+  r.initialFolder =
+      app.files.SaveDirectory.empty() ? app.settings.WorkingDirectory : app.files.SaveDirectory;
+  r.save = true;
+  r.confirmOverwrite = true;
+  const FileDialogAnswer a = app.fileDialogs.Show(r);
+  if (a.path.empty()) return "";
+  const auto slash = a.path.find_last_of('/');
+  app.files.SaveDirectory = slash == std::string::npos ? "" : a.path.substr(0, slash + 1);
+  return a.path;
+}
+
+namespace {
+
+int ErrnoToNumber(int e) {
+  switch (e) {
+    case EACCES:
+    case EROFS:
+    case EPERM:
+    case EISDIR: return 75;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG: return 61;
+    case ENOENT: return 53;
+    case ENOTDIR: return 76;
+    default: return 57;
+  }
+}
+
+bool WriteAll(int fd, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t n = ::write(fd, bytes.data(), bytes.size());
+    if (n < 0) {
+      if (errno == EINTR) continue;
+      return false;
+    }
+    bytes.remove_prefix(static_cast<size_t>(n));
+  }
+  return true;
+}
+
+}  // namespace
+
+std::string ErrorDescription(int number) {
+  switch (number) {
+    case 53: return "File not found";
+    case 57: return "Device I/O error";
+    case 61: return "Disk full";
+    case 71: return "Disk not ready";
+    case 75: return "Path/File access error";
+    case 76: return "Path not found";
+    default: return "Application-defined or object-defined error";
+  }
+}
+
+int WriteFileReplacing(const std::string& path, std::string_view first, std::string_view second) {
+  // Write through a symbolic link to the file it names.
+  std::string target = path;
+  char resolved[PATH_MAX];
+  struct stat st {};
+  if (::lstat(path.c_str(), &st) == 0 && S_ISLNK(st.st_mode) && ::realpath(path.c_str(), resolved))
+    target = resolved;
+  const bool exists = ::stat(target.c_str(), &st) == 0;
+  if (exists && S_ISDIR(st.st_mode)) return 75;
+  // A file that may not be written fails here, as opening it for output would.
+  if (exists && ::access(target.c_str(), W_OK) != 0) return ErrnoToNumber(errno);
+
+  const auto slash = target.find_last_of('/');
+  const std::string dir = slash == std::string::npos ? "." : target.substr(0, slash + 1);
+  std::string temp = dir + ".tsrn-save-XXXXXX";
+  const int fd = ::mkstemp(temp.data());
+  if (fd < 0) return ErrnoToNumber(errno);
+  int error = 0;
+  if (!WriteAll(fd, first) || !WriteAll(fd, second) || ::fsync(fd) != 0) error = ErrnoToNumber(errno);
+  const mode_t mode = exists ? (st.st_mode & 07777) : [] {
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return static_cast<mode_t>(0666 & ~mask);
+  }();
+  if (!error && ::fchmod(fd, mode) != 0) error = ErrnoToNumber(errno);
+  if (exists && !error) (void)::fchown(fd, st.st_uid, st.st_gid);  // best effort
+  if (::close(fd) != 0 && !error) error = ErrnoToNumber(errno);
+  if (!error && ::rename(temp.c_str(), target.c_str()) != 0) error = ErrnoToNumber(errno);
+  if (error) ::unlink(temp.c_str());
+  return error;
+}
+
+void SaveFile(Application& app, DocumentWindow& window, const std::string& path, SaveMode mode) {
+  if (path.empty()) return;
+  EditControl& edit = window.Edit();
+  app.frame.SetMousePointer(MousePointer::Hourglass);
+  const std::string text = edit.Text();
+  const int error = WriteFileReplacing(path, text, "\r\n");
+  app.frame.SetMousePointer(MousePointer::Default);
+  if (error) {
+    std::string message = "Error# " + std::to_string(error) + ": " + ErrorDescription(error);
+    if (error == 75) message += "\r\nRead-only file.  File not saved.";
+    app.messages.Show(message, MsgButtons::OK, MsgIcon::Exclamation, app.title);
+    if (error == 75) {
+      edit.SetFocus();
+      return;
+    }
+  }
+  // Other errors go on as if the file had been written.
+  window.SetCaption(path);
+  const int slot = app.documents.SlotOf(&window);
+  if (slot != 0) app.documents.State(slot).Changed = false;
+  if (mode == SaveMode::Prompt) edit.SetFocus();
+}
+
+}  // namespace tessarine

@@ -1,0 +1,138 @@
+#include "core/Startup.h"
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <fstream>
+#include <sstream>
+
+#include "core/Application.h"
+#include "core/ColorizeRun.h"
+#include "core/Documents.h"
+#include "core/Styles.h"
+#include "platform/DocumentWindow.h"
+#include "platform/EditControl.h"
+#include "platform/Frame.h"
+#include "platform/MessageBoxes.h"
+#include "platform/SettingsStore.h"
+#include "settings/Settings.h"
+
+namespace tessarine {
+
+WindowPlacement ComputeWindowPlacement(const SettingsStore& s, int screenWidth, int screenHeight) {
+  auto coord = [&](const char* key) {
+    const double v = Val(s.GetSetting("Window", key, "0"));
+    return v > 0 ? static_cast<int>(v / kTwipsPerPixel) : 0;
+  };
+  WindowPlacement p;
+  p.x = coord("LeftXCoord");
+  p.y = coord("LeftYCoord");
+  const std::string w = s.GetSetting("Window", "WindowXSize", "5000");
+  const std::string h = s.GetSetting("Window", "WindowYSize", "5000");
+  p.width = w.empty() ? screenWidth : static_cast<int>(Val(w) / kTwipsPerPixel);
+  p.height = h.empty() ? screenHeight : static_cast<int>(Val(h) / kTwipsPerPixel);
+  if (w == "5000" && h == "5000") {
+    p.width = screenWidth;
+    p.height = screenHeight;
+  }
+  return p;
+}
+
+void SaveWindowGeometry(SettingsStore& s, const WindowGeometry& g, bool minimized) {
+  if (!minimized) {
+    s.SaveSetting("Window", "LeftXCoord", std::to_string(std::max(0LL, g.left)));
+    s.SaveSetting("Window", "LeftYCoord", std::to_string(std::max(0LL, g.top)));
+    s.SaveSetting("Window", "WindowXSize", std::to_string(g.width));
+    s.SaveSetting("Window", "WindowYSize", std::to_string(g.height));
+    s.SaveSetting("Window", "FileListWidth", g.fileListWidth);
+    s.SaveSetting("Window", "File1Top", g.file1Top);
+    s.SaveSetting("Window", "SideBarTab", g.sideBarTab);
+  }
+  s.SaveSetting("Miscellaneous", "DefaultShortcutBarGroup", g.shortcutBarGroup);
+}
+
+bool FirstRunStep(Application& app, void (*registerEditVerbs)(Application&)) {
+  std::string firstRun = app.store.GetSetting("Miscellaneous", "FirstRun", "yes");
+  std::transform(firstRun.begin(), firstRun.end(), firstRun.begin(),
+                 [](char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c; });
+  if (firstRun != "yes") return false;
+  if (registerEditVerbs) registerEditVerbs(app);
+  app.store.SaveSetting("Miscellaneous", "Path", app.programFolder);
+  app.store.SaveSetting("Miscellaneous", "FirstRun", "no");
+  return true;
+}
+
+std::string FileListPattern(const std::string& value) {
+  if (value == "all") return "*.*";
+  if (value == "html") return "*.xsl;*.xml;*.shtml;*.html;*.htm;*.dtd;*.asp";
+  if (value == "image") return "*.jpg;*.gif";
+  return "*.xsl;*.xml;*.shtml;*.jpg;*.html;*.htm;*.gif;*.dtd;*.asp";
+}
+
+namespace {
+
+bool IsDocumentOpen(Application& app, const std::string& path) {
+  for (int i = 1; i <= app.documents.UpperBound(); ++i) {
+    const DocumentSlot& s = app.documents.Form(i);
+    if (!app.documents.State(i).Deleted && s.form && s.form->Caption() == path) return true;
+  }
+  return false;
+}
+
+// The number-to-string form: a leading blank where the sign would stand.
+std::string Str(int n) { return (n < 0 ? "" : " ") + std::to_string(n); }
+
+}  // namespace
+
+bool OpenFile(Application& app, const std::string& path) {
+  struct stat st {};
+  if (::stat(path.c_str(), &st) != 0) {
+    app.messages.Show("Document doesn't exist", MsgButtons::OK, MsgIcon::None, app.title);
+    return false;
+  }
+  if (IsDocumentOpen(app, path)) return false;
+  std::ifstream in(path, std::ios::binary);
+  if (S_ISDIR(st.st_mode) || !in) {
+    const int number = S_ISDIR(st.st_mode) || errno == EACCES ? 75 : 53;
+    app.messages.Show(Str(number) + " Can't open file: " + path, MsgButtons::OK, MsgIcon::None,
+                      app.title);
+    return false;
+  }
+  std::ostringstream bytes;
+  bytes << in.rdbuf();
+  std::string text = std::move(bytes).str();
+  if (text.size() >= 2 && text.compare(text.size() - 2, 2, "\r\n") == 0) text.resize(text.size() - 2);
+
+  DocumentWindow* window = NewDocumentWindow(app);
+  window->SetCaption(path);
+  const int slot = app.documents.SlotOf(window);
+  EditControl& edit = window->Edit();
+  edit.SetText(text);
+  if (app.settings.Flags.ColorTags) ChooseColorizer(app, *window, true);
+  if (app.documents.IsAlive(window, app.documents.Form(slot).serial)) {
+    app.documents.State(slot).Changed = false;
+    app.frame.SetSaveButtonEnabled(false);
+    edit.SetVisible(true);
+  }
+  return true;
+}
+
+void OpenStartupDocuments(Application& app, const std::string& commandLine) {
+  if (!commandLine.empty()) {
+    OpenFile(app, commandLine);
+  } else if (app.settings.StartNewDoc) {
+    NewDocumentWindow(app);
+    app.LoadSettings();
+  } else if (app.settings.OpenMRUDoc) {
+    const std::string recent = app.store.GetSetting("Startup", "RecentFile1", "Not Used");
+    std::string lower = recent;
+    std::transform(lower.begin(), lower.end(), lower.begin(),
+                   [](char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c; });
+    if (lower != "not used") OpenFile(app, recent);
+  } else {
+    app.frame.SetToolbarButtonsEnabled(false);
+  }
+}
+
+}  // namespace tessarine

@@ -1,0 +1,109 @@
+#include "core/TextServices.h"
+
+#include <algorithm>
+
+#include "core/Application.h"
+#include "core/Styles.h"
+#include "platform/EditControl.h"
+
+namespace tessarine {
+
+std::string LCase(std::string_view text) {
+  std::string out(text);
+  for (char& c : out)
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  return out;
+}
+
+long long InStrNoCase(long long start, std::string_view text, std::string_view needle) {
+  if (start < 1) start = 1;
+  const auto lower = [](char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c; };
+  const auto from = text.begin() + std::min<long long>(start - 1, static_cast<long long>(text.size()));
+  const auto it = std::search(from, text.end(), needle.begin(), needle.end(),
+                              [&](char a, char b) { return lower(a) == lower(b); });
+  if (it == text.end() && !needle.empty()) return 0;
+  return static_cast<long long>(it - text.begin()) + 1;
+}
+
+void EmptyUndoBuffer(Application& app) {
+  if (EditControl* e = app.ActiveEdit()) e->EmptyUndoBuffer();
+}
+
+namespace {
+std::string Cased(Application& app, const std::string& text, bool keepCase) {
+  return (keepCase || app.settings.TagCaseUpper) ? text : LCase(text);
+}
+}  // namespace
+
+void InsertAtCaret(Application& app, const std::string& text, bool keepCase) {
+  EditControl* e = app.ActiveEdit();
+  if (!e) return;
+  EmptyUndoBuffer(app);
+  e->ReplaceSel(Cased(app, text, keepCase));
+  e->SetFocus();
+  app.textServices.ReplaceSelectionOnce = false;
+}
+
+void WrapSelection(Application& app, const std::string& startTag, const std::string& endTag,
+                   bool keepCase) {
+  EditControl* e = app.ActiveEdit();
+  if (!e) return;
+  TextServiceState& ts = app.textServices;
+  EmptyUndoBuffer(app);
+  const std::string selected = e->SelText();
+  if (selected.empty()) {
+    const std::string endText = Cased(app, endTag, keepCase);
+    e->ReplaceSel(Cased(app, startTag + endTag, keepCase));
+    e->SetFocus();
+    e->SetSelStart(e->SelStart() - static_cast<Pos>(endText.size()));
+  } else if (!ts.ReplaceSelectionOnce) {
+    const Pos n = static_cast<Pos>(selected.size());
+    const std::string endText = Cased(app, endTag, keepCase);
+    e->ReplaceSel(Cased(app, startTag, keepCase) + selected + endText);
+    e->SetSelStart(e->SelStart() - (n + static_cast<Pos>(endText.size())));
+    e->SetSelLength(n);
+    e->SetFocus();
+  } else {
+    e->ReplaceSel(Cased(app, startTag, keepCase));
+  }
+  ts.LastStartTag = startTag;
+  ts.LastEndTag = endTag;
+  ts.ReplaceSelectionOnce = false;
+}
+
+void InsertInHeadAndBody(Application& app, std::string& headText, std::string& bodyText) {
+  EditControl* e = app.ActiveEdit();
+  if (!e) return;
+  const Style plain = MakeStyle(StyleKind::Plain, IsBold(e->InsertionStyle()));
+  if (!bodyText.empty()) {
+    const Pos selStart = e->SelStart(), selLength = e->SelLength();
+    const std::string text = e->Text();
+    const long long b = InStrNoCase(1, text, "<BODY");
+    const long long g = b ? InStrNoCase(b, text, ">") : 0;
+    const long long end = g ? InStrNoCase(g, text, "</BODY") : 0;
+    // Inside the body: from just behind the body tag up to its end tag.
+    if (g > 0 && end > 0 && selStart >= g && selStart < end) {
+      e->Select(selStart, selLength);
+    } else {
+      e->SetSelStart(g);
+      bodyText = "\r\n\r\n" + bodyText;
+    }
+    e->ReplaceSel(bodyText);
+  }
+  if (!headText.empty()) {
+    const std::string text = e->Text();
+    const long long h = InStrNoCase(1, text, "</HEAD>");
+    if (h > 1) {
+      e->SetSelStart(h - 1);
+      headText = "\r\n" + headText;
+    } else {
+      // One past the end of "<HTML>", and position 6 when there is none.
+      e->SetSelStart(InStrNoCase(1, text, "<HTML>") + 6);
+      headText = "\r\n\r\n<HEAD>\r\n" + headText + "\r\n</HEAD>";
+    }
+    e->SetInsertionStyle(plain);
+    e->ReplaceSel(headText);
+  }
+}
+
+}  // namespace tessarine

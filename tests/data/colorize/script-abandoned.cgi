@@ -1,0 +1,4 @@
+#!/usr/bin/perl
+#next skipped
+print "a#b";
+# last

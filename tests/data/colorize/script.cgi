@@ -1,0 +1,4 @@
+#!/bin/sh
+x
+# one
+echo # two
