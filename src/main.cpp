@@ -1,1 +1,33 @@
-int main() { return 0; }
+// The editor: the main window over the logic, its whole command line one path.
+#include <QApplication>
+#include <QDir>
+#include <QStringList>
+
+#include "core/Application.h"
+#include "core/Startup.h"
+#include "ui/MDIForm1.h"
+#include "ui/QtPlatform.h"
+
+int main(int argc, char** argv) {
+  QApplication qapp(argc, argv);
+  QApplication::setApplicationName("Tessarine");
+  QApplication::setOrganizationName("Tessarine");
+
+  // The whole command line is one path: no quotes stripped, no second file looked for.
+  QStringList args = QApplication::arguments();
+  args.removeFirst();
+  const std::string commandLine = args.join(' ').toStdString();
+
+  const std::string folder = tessarine::PrepareApplicationFolder(TESSARINE_DATA_DIR);
+  tessarine::QtSettingsStore store;
+  tessarine::QtMessageBoxes messages;
+  tessarine::QtFileDialogs dialogs;
+  tessarine::MDIForm1 frame;
+  messages.SetParent(&frame);
+  dialogs.SetParent(&frame);
+  tessarine::Application app(frame, messages, store, dialogs, folder);
+  app.defaultDocumentFolder = QDir::homePath().toStdString();
+  frame.show();
+  frame.Load(app, commandLine);
+  return qapp.exec();
+}

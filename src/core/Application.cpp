@@ -7,7 +7,7 @@ namespace tessarine {
 
 Application::Application(Frame& f, MessageBoxes& m, SettingsStore& s, FileDialogs& d,
                          std::string folder)
-    : frame(f), messages(m), store(s), fileDialogs(d), programFolder(std::move(folder)) {}
+    : frame(f), messages(m), store(s), fileDialogs(d), programFolder(std::move(folder)), defaultDocumentFolder(programFolder) {}
 
 DocumentWindow* Application::ActiveDocument() { return frame.ActiveDocumentWindow(); }
 
@@ -16,6 +16,6 @@ EditControl* Application::ActiveEdit() {
   return w ? &w->Edit() : nullptr;
 }
 
-void Application::LoadSettings() { tessarine::LoadSettings(settings, store, programFolder); }
+void Application::LoadSettings() { tessarine::LoadSettings(settings, store, defaultDocumentFolder); }
 
 }  // namespace tessarine

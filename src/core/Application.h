@@ -45,6 +45,9 @@ class Application {
   FileDialogs& fileDialogs;
   const std::string programFolder;
   const std::string title = "Tessarine";
+  // Where the folder settings point until the user chooses: the program's folder unless
+  // the desktop has a better place (the home folder).
+  std::string defaultDocumentFolder;
 
   SettingsVars settings;
   DocumentList documents;

@@ -43,6 +43,23 @@ class Yielder {
     next_ = (pos / kPassChunk + 1) * kPassChunk;
     return yield_(pos);
   }
+  // Moves `p` to the next `c`, or to the end of the text, yielding at each chunk boundary
+  // on the way, so a long stretch without markup still lets Esc through. True when the
+  // pass is to be cancelled at `p`.
+  bool SkipTo(std::string_view text, char c, Pos& p) {
+    const Pos n = static_cast<Pos>(text.size());
+    for (;;) {
+      if (Poll(p)) return true;
+      const Pos limit = yield_ ? std::min(n, next_) : n;
+      const void* hit = std::memchr(text.data() + p, c, static_cast<size_t>(limit - p));
+      if (hit) {
+        p = static_cast<const char*>(hit) - text.data();
+        return false;
+      }
+      p = limit;
+      if (p == n) return Poll(n);
+    }
+  }
 
  private:
   const PassYield& yield_;
@@ -75,17 +92,12 @@ PassResult ColorizeTags(std::string_view text, const ColorizeOptions& options, S
 
   for (Pos p = 0; p < n; ++p) {
     // Everything outside a tag stays plain: jump to the next "<".
-    const void* lt = std::memchr(t + p, '<', static_cast<size_t>(n - p));
-    if (!lt) {
-      yielder.Poll(n);
-      break;
-    }
-    p = static_cast<const char*>(lt) - t;
-    if (yielder.Poll(p)) {
+    if (yielder.SkipTo(text, '<', p)) {
       result.end = PassEnd::Cancelled;
       result.position = p;
       return result;
     }
+    if (p == n) break;
     Pos start = p;
 
     // Comments first of all.
@@ -170,17 +182,12 @@ PassResult ColorizeScriptComments(std::string_view text, bool bold, Style* style
   const Style greyStyle = MakeStyle(StyleKind::ScriptComment, bold);
 
   for (Pos p = 0; p < n; ++p) {
-    const void* hash = std::memchr(t + p, '#', static_cast<size_t>(n - p));
-    if (!hash) {
-      yielder.Poll(n);
-      break;
-    }
-    p = static_cast<const char*>(hash) - t;
-    if (yielder.Poll(p)) {
+    if (yielder.SkipTo(text, '#', p)) {
       result.end = PassEnd::Cancelled;
       result.position = p;
       return result;
     }
+    if (p == n) break;
     const Pos start = p;
     if (p + 1 < n && t[p + 1] == '!') {
       const size_t lf = text.find('\n', static_cast<size_t>(p) + 1);

@@ -3,6 +3,8 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <filesystem>
 #include <cerrno>
 #include <fstream>
 #include <sstream>
@@ -19,6 +21,8 @@
 #include "settings/Settings.h"
 
 namespace tessarine {
+
+namespace fs = std::filesystem;
 
 WindowPlacement ComputeWindowPlacement(const SettingsStore& s, int screenWidth, int screenHeight) {
   auto coord = [&](const char* key) {
@@ -61,6 +65,52 @@ bool FirstRunStep(Application& app, void (*registerEditVerbs)(Application&)) {
   app.store.SaveSetting("Miscellaneous", "Path", app.programFolder);
   app.store.SaveSetting("Miscellaneous", "FirstRun", "no");
   return true;
+}
+
+namespace {
+std::string HomeFolder() {
+  const char* home = std::getenv("HOME");
+  return home && *home ? home : "/tmp";
+}
+std::string DataHome() {
+  const char* x = std::getenv("XDG_DATA_HOME");
+  return x && *x ? std::string(x) : HomeFolder() + "/.local/share";
+}
+}  // namespace
+
+void RegisterEditVerbs(Application&) {
+  std::error_code ec;
+  const fs::path exe = fs::read_symlink("/proc/self/exe", ec);
+  if (ec) return;
+  const fs::path dir = fs::path(DataHome()) / "applications";
+  fs::create_directories(dir, ec);
+  std::ofstream out(dir / "tessarine.desktop", std::ios::binary | std::ios::trunc);
+  out << "[Desktop Entry]\n"
+         "Type=Application\n"
+         "Name=Tessarine\n"
+         "GenericName=Edit with Tessarine\n"
+         "Comment=Edit with Tessarine\n"
+         "Exec=\"" << exe.string() << "\" %f\n"
+         "MimeType=text/html;application/x-asp;text/javascript;application/javascript;\n"
+         "Categories=Development;WebDevelopment;TextEditor;\n"
+         "Terminal=false\n"
+         "NoDisplay=false\n";
+}
+
+std::string PrepareApplicationFolder(const std::string& installed) {
+  const char* env = std::getenv("TESSARINE_HOME");
+  const fs::path folder = env && *env ? fs::path(env) : fs::path(DataHome()) / "Tessarine";
+  std::error_code ec;
+  fs::create_directories(folder, ec);
+  if (!installed.empty() && fs::is_directory(installed, ec)) {
+    for (auto it = fs::recursive_directory_iterator(installed, ec);
+         !ec && it != fs::recursive_directory_iterator(); it.increment(ec)) {
+      const fs::path target = folder / fs::relative(it->path(), installed, ec);
+      if (it->is_directory(ec)) fs::create_directories(target, ec);
+      else if (!fs::exists(target, ec)) fs::copy_file(it->path(), target, ec);
+    }
+  }
+  return folder.string();
 }
 
 std::string FileListPattern(const std::string& value) {
@@ -107,12 +157,15 @@ bool OpenFile(Application& app, const std::string& path) {
   DocumentWindow* window = NewDocumentWindow(app);
   window->SetCaption(path);
   const int slot = app.documents.SlotOf(window);
+  // Taken before the pass: its yields may close the window and reuse the slot.
+  const auto serial = app.documents.Form(slot).serial;
   EditControl& edit = window->Edit();
   edit.SetText(text);
   if (app.settings.Flags.ColorTags) ChooseColorizer(app, *window, true);
-  if (app.documents.IsAlive(window, app.documents.Form(slot).serial)) {
+  if (app.documents.IsAlive(window, serial)) {
     app.documents.State(slot).Changed = false;
     app.frame.SetSaveButtonEnabled(false);
+    if (app.ActiveDocument() == window) app.frame.SetLengthPanel(edit.Length());
     edit.SetVisible(true);
   }
   return true;

@@ -31,6 +31,13 @@ void SaveWindowGeometry(SettingsStore& store, const WindowGeometry& g, bool mini
 // Returns true when it was the first run.
 bool FirstRunStep(Application& app, void (*registerEditVerbs)(Application&));
 
+// The "Edit with Tessarine" registration: a desktop entry in the user's applications
+// folder (XDG_DATA_HOME) for HTML, ASP and JavaScript files. Failures are silent.
+void RegisterEditVerbs(Application& app);
+// The application folder: $TESSARINE_HOME, else ~/.local/share/Tessarine; created and given
+// the installed data files it lacks, never overwriting.
+std::string PrepareApplicationFolder(const std::string& installedDataFolder);
+
 // The file-list pattern of a `FileList` setting value.
 std::string FileListPattern(const std::string& value);
 

@@ -1,0 +1,46 @@
+#pragma once
+// A document window: the edit control with the please-wait label behind it.
+
+#include <QWidget>
+
+#include "platform/DocumentWindow.h"
+
+class QLabel;
+class QMdiSubWindow;
+
+namespace tessarine {
+
+class Application;
+class SciEdit;
+
+class Form2 : public QWidget, public DocumentWindow {
+  Q_OBJECT
+ public:
+  Form2(Application& app, QWidget* parent = nullptr);
+
+  EditControl& Edit() override;
+  SciEdit& RichTextBox1() { return *edit_; }
+  std::string Caption() const override;
+  void SetCaption(const std::string& caption) override;
+  void SetMaximized(bool maximized) override;
+  bool IsMaximized() const override;
+  void Activate() override;
+  bool RequestClose() override;
+
+  void SetSubWindow(QMdiSubWindow* sub) { sub_ = sub; }
+  QMdiSubWindow* SubWindow() const { return sub_; }
+  // Redefines the edit control's styles from the colour and font settings.
+  void ApplySettings();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  Application& app_;
+  SciEdit* edit_;
+  QLabel* lblPleaseWait_;
+  QMdiSubWindow* sub_ = nullptr;
+};
+
+}  // namespace tessarine

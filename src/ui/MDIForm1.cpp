@@ -1,0 +1,541 @@
+#include "ui/MDIForm1.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDateTime>
+#include <QDir>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QTextEdit>
+#include <QTimer>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "core/Application.h"
+#include "core/ClockText.h"
+#include "core/ColorizeRun.h"
+#include "core/Documents.h"
+#include "core/FileSave.h"
+#include "core/Startup.h"
+#include "core/TextServices.h"
+#include "platform/EditControl.h"
+#include "platform/FileDialogs.h"
+#include "platform/SettingsStore.h"
+#include "ui/Form2.h"
+#include "ui/SciEdit.h"
+
+namespace tessarine {
+
+namespace {
+
+QString Q(const std::string& s) { return QString::fromUtf8(s.data(), static_cast<int>(s.size())); }
+
+struct ButtonDef {
+  const char* key;
+  const char* tooltip;
+  bool works;  // false: its command arrives with a later part of the editor
+};
+
+const ButtonDef kFileButtons[] = {
+    {"New", "New Document", true},          {"Open", "Open (Ctrl-O)", true},
+    {"Save", "Save (Ctrl-S)", true},        {"Print", "Print", false},
+    {"Cut", "Cut (Ctrl-X)", false},         {"Copy", "Copy (Ctrl-C)", false},
+    {"Paste", "Paste (Ctrl-V)", false},     {"Find", "Find/Search (Ctrl-F)", false},
+};
+const ButtonDef kFormatButtons[] = {
+    {"Bold", "Bold (Ctrl-B)", true},
+    {"Italic", "Italic (Ctrl-I)", true},
+    {"Underline", "Underline (Ctrl-U)", true},
+    {"Format", "Set Font size, color, etc.", false},
+    {"Align Left", "Align Left", false},
+    {"Align Center", "Align Center", false},
+    {"Align Right", "Align Right", false},
+    {"Justify", "Justify", false},
+    {"Indent", "Indent", false},
+    {"BR", "Insert Line Break (Ctrl-K)", false},
+    {"HR", "Insert Horizontal Line (Ctrl-H)", false},
+    {"Comment", "Insert Comment", false},
+};
+const ButtonDef kInsertButtons[] = {
+    {"Page Properties", "Page Properties (colors, background, etc.)", false},
+    {"Hyperlink", "Insert Hyperlink", false},
+    {"Image", "Insert Image/Image Browser", false},
+    {"Anchor", "Insert Anchor/Bookmark target", false},
+    {"Special Characters", "Insert Special Characters", false},
+    {"Table Wizard", "Table Wizard", false},
+    {"Frames", "Frame Wizard", false},
+    {"Form Wizard", "Form Wizard", false},
+    {"Bulleted List", "Create Bulleted List", false},
+    {"Numbered List", "Create Numbered List", false},
+};
+const ButtonDef kToolsButtons[] = {
+    {"Browser1", "Browser1", false},      {"Browser2", "Browser2", false},
+    {"Color Tags", "Refresh HTML tag colors (F2)", true},
+    {"Color Picker", "Color Picker", false}, {"Spellcheck", "Spellcheck", false},
+    {"Check Links", "Check Links", false},  {"Validate", "Validate", false},
+    {"FTP", "FTP", false},
+};
+
+struct PhysicalStyle {
+  const char* caption;
+  const char* start;
+  const char* end;
+};
+const PhysicalStyle kPhysicalStyles[] = {
+    {"&Bold - <B>", "<B>", "</B>"},
+    {"&Italic - <I>", "<I>", "</I>"},
+    {"Stri&kethrough - <S>", "<S>", "</S>"},
+    {"&Subscript - <SUB>", "<SUB>", "</SUB>"},
+    {"Su&perscript - <SUP>", "<SUP>", "</SUP>"},
+    {"&Typewriter Text - <TT>", "<TT>", "</TT>"},
+    {"&Underline - <U>", "<U>", "</U>"},
+};
+
+const char* const kAspHelp =
+    "This ASP Tree lists the major ASP objects as well as their properties, methods and events.  "
+    "Click on an item for a description.  Double-click an item to insert it into your document.";
+const char* const kJsHelp =
+    "This JavaScript Tree lists the major JavaScript objects as well as their properties, methods "
+    "and events.  Click on an item for a description.  Double-click an item to insert it into your "
+    "document.";
+
+}  // namespace
+
+MDIForm1::MDIForm1() : mdiArea_(new QMdiArea) {
+  setObjectName("MDIForm1");
+  mdiArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  mdiArea_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  BuildPanels();
+  BuildToolbars();
+  BuildMenus();
+  BuildStatusBar();
+  qApp->installEventFilter(this);
+}
+
+MDIForm1::~MDIForm1() { qApp->removeEventFilter(this); }
+
+void MDIForm1::BuildPanels() {
+  // Error list under the documents, hidden until the validator fills it.
+  picErrorList_ = new QWidget;
+  picErrorList_->setObjectName("picErrorList");
+  auto* errLayout = new QVBoxLayout(picErrorList_);
+  errLayout->setContentsMargins(2, 2, 2, 2);
+  auto* header = new QHBoxLayout;
+  auto* lblErrorList = new QLabel("Errors");
+  lblErrorList->setObjectName("lblErrorList");
+  auto* cmdCloseValidator = new QPushButton("Close");
+  cmdCloseValidator->setObjectName("cmdCloseValidator");
+  header->addWidget(lblErrorList, 1);
+  header->addWidget(cmdCloseValidator);
+  auto* txtTidyErrors = new QPlainTextEdit;
+  txtTidyErrors->setObjectName("txtTidyErrors");
+  txtTidyErrors->setReadOnly(true);
+  errLayout->addLayout(header);
+  errLayout->addWidget(txtTidyErrors);
+  connect(cmdCloseValidator, &QPushButton::clicked, picErrorList_, &QWidget::hide);
+  picErrorList_->hide();
+
+  vsplit_ = new QSplitter(Qt::Vertical);
+  vsplit_->setObjectName("Hsplitter");
+  vsplit_->addWidget(mdiArea_);
+  vsplit_->addWidget(picErrorList_);
+  vsplit_->setStretchFactor(0, 1);
+
+  // The side panel: file list and the two reference trees.
+  tabStrip1_ = new QTabWidget;
+  tabStrip1_->setObjectName("TabStrip1");
+  auto* files = new QLabel("File list");
+  files->setObjectName("picSideBar0");
+  files->setAlignment(Qt::AlignCenter);
+  auto makeRef = [](const char* name, const char* help) {
+    auto* description = new QTextEdit;
+    description->setObjectName(name);
+    description->setReadOnly(true);
+    description->setPlainText(help);
+    return description;
+  };
+  tabStrip1_->addTab(files, "Files");
+  tabStrip1_->addTab(makeRef("rtfASPDescription", kAspHelp), "ASP");
+  tabStrip1_->addTab(makeRef("rtfJSDescription", kJsHelp), "JavaScript");
+
+  hsplit_ = new QSplitter(Qt::Horizontal);
+  hsplit_->setObjectName("Vsplitter");
+  hsplit_->addWidget(vsplit_);
+  hsplit_->addWidget(tabStrip1_);
+  hsplit_->setStretchFactor(0, 1);
+  hsplit_->setChildrenCollapsible(false);
+  setCentralWidget(hsplit_);
+
+  connect(mdiArea_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* sub) {
+    if (!app_ || !sub) return;
+    if (auto* form = qobject_cast<Form2*>(sub->widget())) OnDocumentActivated(*app_, *form);
+  });
+}
+
+void MDIForm1::BuildToolbars() {
+  auto build = [this](const char* name, const char* title, const auto& defs, bool lineBreak) {
+    if (lineBreak) addToolBarBreak();
+    auto* bar = addToolBar(title);
+    bar->setObjectName(name);
+    bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    toolbars_[name] = bar;
+    for (const ButtonDef& d : defs) {
+      QAction* a = bar->addAction(d.key);
+      a->setObjectName(QString(name) + "/" + d.key);
+      a->setToolTip(d.tooltip);
+      a->setData(d.works);
+      a->setEnabled(d.works);
+      buttons_[a->objectName()] = a;
+      const bool anyDocument = QString(name) == "tbrFile" && (QString(d.key) == "New" || QString(d.key) == "Open");
+      if (!anyDocument) needDocument_ << a;
+      const QString bar_ = name, key = d.key;
+      connect(a, &QAction::triggered, this, [this, bar_, key] { OnToolbarButton(bar_, key); });
+    }
+    return bar;
+  };
+  QToolBar* file = build("tbrFile", "File", kFileButtons, false);
+  cboFind_ = new QComboBox;
+  cboFind_->setObjectName("cboFind");
+  cboFind_->setEditable(true);
+  cboFind_->setMinimumWidth(140);
+  file->addWidget(cboFind_);
+  build("tbrFormat", "Format", kFormatButtons, false);
+  build("tbrInsert", "Insert", kInsertButtons, true);
+  build("tbrTools", "Tools", kToolsButtons, false);
+}
+
+void MDIForm1::BuildMenus() {
+  auto command = [this](QMenu* menu, const QString& name, const QString& caption, bool needsDoc,
+                        auto slot) {
+    QAction* a = menu->addAction(caption);
+    a->setObjectName(name);
+    commands_[name] = a;
+    if (needsDoc) needDocument_ << a;
+    connect(a, &QAction::triggered, this, slot);
+    return a;
+  };
+  QMenu* file = menuBar()->addMenu("&File");
+  command(file, "mnuNewFile", "&New", false, [this] { FileNew(); })->setShortcut(QKeySequence::New);
+  command(file, "FileOpen", "&Open...", false, [this] { FileOpen(); })->setShortcut(QKeySequence::Open);
+  command(file, "FileClose", "&Close", true, [this] { if (app_) CloseActiveDocument(*app_); });
+  command(file, "FileSave", "&Save", true, [this] { FileSave(false); })->setShortcut(QKeySequence::Save);
+  command(file, "FileSaveAs", "Save &As...", true, [this] { FileSave(true); });
+  file->addSeparator();
+  command(file, "mnuFileExit", "E&xit", false, [this] { close(); });
+
+  QMenu* edit = menuBar()->addMenu("&Edit");
+  command(edit, "mnuGlobalReplace", "&Global Find and Replace...", false, [] {})->setEnabled(false);
+
+  QMenu* format = menuBar()->addMenu("F&ormat");
+  documentMenus_ << format;
+  QMenu* physical = format->addMenu("&Physical Styles");
+  for (int i = 0; i < 7; ++i) {
+    const PhysicalStyle& s = kPhysicalStyles[i];
+    command(physical, QString("mnuPhysicalStyles%1").arg(i), s.caption, true, [this, s] {
+      if (app_) WrapSelection(*app_, s.start, s.end, false);
+    });
+  }
+
+  QMenu* view = menuBar()->addMenu("&View");
+  QMenu* bars = view->addMenu("&Toolbars");
+  const std::pair<const char*, const char*> toggles[] = {{"tbrFile", "File"},
+                                                         {"tbrFormat", "Format"},
+                                                         {"tbrInsert", "Insert"},
+                                                         {"tbrTools", "Tools"}};
+  for (const auto& [bar, key] : toggles) {
+    QToolBar* tb = toolbars_[bar];
+    const QString name = QString("mnuViewToolbar") + key;
+    QAction* a = command(bars, name, key, false, [this, tb, key = key] { ToggleToolbar(tb, key); });
+    a->setCheckable(true);
+    a->setChecked(true);
+  }
+  QAction* fileList = command(view, "mnuViewFileList", "File &List", false, [this] {
+    tabStrip1_->setVisible(!tabStrip1_->isVisible());
+    commands_["mnuViewFileList"]->setChecked(tabStrip1_->isVisible());
+  });
+  fileList->setCheckable(true);
+  command(view, "mnuPreferences", "&Preferences...", false, [] {})->setEnabled(false);
+
+  QMenu* tools = menuBar()->addMenu("&Tools");
+  documentMenus_ << tools;
+  command(tools, "mnuColorize", "&Refresh Tag Colors", true, [this] {
+    if (app_) mnuColorize(*app_, false);
+  })->setShortcut(Qt::Key_F2);
+
+  QMenu* window = menuBar()->addMenu("&Window");
+  documentMenus_ << window;
+  const char* arrange[] = {"&Cascade", "Tile &Horizontally", "Tile &Vertically", "&Arrange Icons"};
+  for (int i = 0; i < 4; ++i)
+    command(window, QString("mnuWindowArrange%1").arg(i), arrange[i], true,
+            [this, i] { if (app_) mnuWindowArrange(*app_, i); });
+  window->addSeparator();
+  command(window, "mnuWindowMove0", "Move to &Previous document    Ctrl+Tab", true,
+          [this] { if (app_) mnuWindowMove(*app_, 0); });
+  command(window, "mnuWindowMove1", "Move to &Next document          Shift+Ctrl+Tab", true,
+          [this] { if (app_) mnuWindowMove(*app_, 1); });
+  window->addSeparator();
+  command(window, "mnuCloseAll", "Cl&ose All", true, [this] { if (app_) CloseAllDocuments(*app_); });
+
+  menuBar()->addMenu("&Help")->addAction("&About Tessarine");
+}
+
+void MDIForm1::BuildStatusBar() {
+  const char* tips[] = {nullptr, nullptr, nullptr, nullptr,
+                        "Double-click to insert current time and date", "CapsLock",
+                        "Insert/Overwrite"};
+  for (int i = 1; i <= 6; ++i) {
+    if (i == 2) continue;  // no second panel
+    auto* l = new QLabel;
+    l->setObjectName(QString("StatusBar1Panel%1").arg(i));
+    if (tips[i]) l->setToolTip(tips[i]);
+    l->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    panels_[i] = l;
+    if (i == 1) statusBar()->addWidget(l, 1);
+    else statusBar()->addPermanentWidget(l);
+  }
+  panels_[1]->setText("Press F1 for Help");
+  panels_[3]->setText("0 bytes");
+  panels_[4]->setText("Line: 1");
+  panels_[5]->setText("CAPS");
+  panels_[6]->setText("INS");
+  // Panel 4 stands for the caret line; the clock follows it.
+  auto* clock = new QLabel;
+  clock->setObjectName("StatusBar1Clock");
+  clock->setToolTip("Double-click to insert current time and date");
+  clock->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+  clock->installEventFilter(this);
+  statusBar()->insertPermanentWidget(2, clock);
+  auto tick = [clock] {
+    const std::time_t now = std::time(nullptr);
+    std::tm t{};
+    localtime_r(&now, &t);
+    clock->setText(Q(ClockPanelText(t)));
+  };
+  tick();
+  auto* timer = new QTimer(this);
+  connect(timer, &QTimer::timeout, this, tick);
+  timer->start(10000);
+  panels_[5]->setToolTip("CapsLock");
+  panels_[6]->setToolTip("Insert/Overwrite");
+}
+
+bool MDIForm1::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonDblClick && watched->objectName() == "StatusBar1Clock") {
+    if (app_ && app_->ActiveEdit()) {
+      const std::time_t now = std::time(nullptr);
+      std::tm t{};
+      localtime_r(&now, &t);
+      app_->ActiveEdit()->ReplaceSel(ClockInsertText(t));
+    }
+    return true;
+  }
+  // A pass hides the control, so Esc may reach another widget: it still cancels.
+  if (event->type() == QEvent::KeyPress && app_ && app_->colorizing.ColorizingInProgress == 1) {
+    const auto* k = static_cast<QKeyEvent*>(event);
+    if (k->key() == Qt::Key_Escape) OnDocumentKeyPress(*app_, 27);
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
+void MDIForm1::Load(Application& app, const std::string& commandLine) {
+  app_ = &app;
+  FirstRunStep(app, &RegisterEditVerbs);
+  app.LoadSettings();
+  SettingsStore& s = app.store;
+
+  const QRect screen = QGuiApplication::primaryScreen()
+                           ? QGuiApplication::primaryScreen()->availableGeometry()
+                           : QRect(0, 0, 1024, 768);
+  const WindowPlacement p = ComputeWindowPlacement(s, screen.width(), screen.height());
+  setGeometry(p.x, p.y, std::max(p.width, 200), std::max(p.height, 150));
+
+  const std::string listWidth = s.GetSetting("Window", "FileListWidth", "");
+  const int side = listWidth.empty() ? 220 : std::max(50, static_cast<int>(Val(listWidth)) / kTwipsPerPixel);
+  if (app.settings.AlignFileListLeft) hsplit_->insertWidget(0, tabStrip1_);
+  const int total = std::max(p.width, 400);
+  hsplit_->setSizes(app.settings.AlignFileListLeft ? QList<int>{side, total - side}
+                                                    : QList<int>{total - side, side});
+  const int tab = static_cast<int>(Val(s.GetSetting("Window", "SideBarTab", "2")));
+  if (tab >= 1 && tab <= tabStrip1_->count()) tabStrip1_->setCurrentIndex(tab - 1);
+  tabStrip1_->setVisible(app.settings.ShowFileList);
+  commands_["mnuViewFileList"]->setChecked(app.settings.ShowFileList);
+  shortcutBarGroup_ = s.GetSetting("Miscellaneous", "DefaultShortcutBarGroup", "");
+
+  for (const char* key : {"File", "Format", "Insert", "Tools"}) {
+    const bool off = QString::fromStdString(s.GetSetting("Toolbars", key, "on")).compare("off", Qt::CaseInsensitive) == 0;
+    toolbars_[QString("tbr") + key]->setVisible(!off);
+    commands_[QString("mnuViewToolbar") + key]->setChecked(!off);
+  }
+
+  for (int i = 1; i <= 5; ++i) {
+    const std::string k = s.GetSetting("Miscellaneous", "SearchKeyword" + std::to_string(i), "");
+    cboFind_->addItem(Q(k));
+  }
+  cboFind_->setEditText("");
+  QDir::setCurrent(Q(app.settings.WorkingDirectory));
+
+  setWindowTitle("Tessarine 2002");
+  OpenStartupDocuments(app, commandLine);
+  UpdateMenusForDocumentCount();
+  if (EditControl* e = app.ActiveEdit()) {
+    e->SetVisible(true);
+    e->SetFocus();
+  }
+}
+
+DocumentWindow* MDIForm1::CreateDocumentWindow() {
+  auto* form = new Form2(*app_);
+  QMdiSubWindow* sub = mdiArea_->addSubWindow(form);
+  sub->setAttribute(Qt::WA_DeleteOnClose);
+  form->SetSubWindow(sub);
+  connect(sub, &QObject::destroyed, this, [this] {
+    QTimer::singleShot(0, this, [this] { UpdateMenusForDocumentCount(); });
+  });
+  connect(&form->RichTextBox1(), &QsciScintilla::cursorPositionChanged, this,
+          [this](int line, int) { panels_[4]->setText(QString("Line: %1").arg(line + 1)); });
+  sub->show();
+  UpdateMenusForDocumentCount();
+  return form;
+}
+
+DocumentWindow* MDIForm1::ActiveDocumentWindow() {
+  QMdiSubWindow* sub = mdiArea_->currentSubWindow();
+  return sub ? qobject_cast<Form2*>(sub->widget()) : nullptr;
+}
+
+void MDIForm1::ActivateNextDocument(bool previous) {
+  if (previous) mdiArea_->activatePreviousSubWindow();
+  else mdiArea_->activateNextSubWindow();
+}
+
+void MDIForm1::Arrange(WindowArrangement how) {
+  switch (how) {
+    case WindowArrangement::Cascade: mdiArea_->cascadeSubWindows(); break;
+    case WindowArrangement::TileHorizontal:
+    case WindowArrangement::TileVertical: mdiArea_->tileSubWindows(); break;
+    case WindowArrangement::ArrangeIcons: break;  // no icons on this desktop
+  }
+}
+
+void MDIForm1::SetStatusText(const std::string& text) { panels_[1]->setText(Q(text)); }
+std::string MDIForm1::StatusText() const { return panels_[1]->text().toStdString(); }
+void MDIForm1::SetLengthPanel(std::int64_t length) {
+  panels_[3]->setText(QString::number(length) + " bytes");
+}
+
+void MDIForm1::SetMousePointer(MousePointer pointer) {
+  const bool wait = pointer == MousePointer::Hourglass;
+  if (wait == hourglass_) return;
+  hourglass_ = wait;
+  if (wait) QApplication::setOverrideCursor(Qt::WaitCursor);
+  else QApplication::restoreOverrideCursor();
+}
+
+void MDIForm1::SetToolbarButtonsEnabled(bool enabled) {
+  for (QAction* a : needDocument_) a->setEnabled(enabled && (!a->data().isValid() || a->data().toBool()));
+}
+
+void MDIForm1::SetSaveButtonEnabled(bool enabled) { buttons_["tbrFile/Save"]->setEnabled(enabled); }
+
+void MDIForm1::ProcessEvents() { QCoreApplication::processEvents(); }
+
+QAction* MDIForm1::Button(const QString& toolbar, const QString& key) const {
+  return buttons_.value(toolbar + "/" + key);
+}
+QAction* MDIForm1::Command(const QString& name) const { return commands_.value(name); }
+QToolBar* MDIForm1::Toolbar(const QString& name) const { return toolbars_.value(name); }
+
+void MDIForm1::UpdateMenusForDocumentCount() {
+  const bool any = !mdiArea_->subWindowList().isEmpty();
+  for (QMenu* m : documentMenus_) m->menuAction()->setVisible(any);
+  for (const char* name : {"FileClose", "FileSave", "FileSaveAs"}) commands_[name]->setVisible(any);
+}
+
+void MDIForm1::OnToolbarButton(const QString& toolbar, const QString& key) {
+  if (!app_) return;
+  if (toolbar == "tbrFile") {
+    if (key == "New") FileNew();
+    else if (key == "Open") FileOpen();
+    else if (key == "Save") FileSave(false);
+  } else if (toolbar == "tbrFormat") {
+    if (key.compare("Bold", Qt::CaseInsensitive) == 0) WrapSelection(*app_, "<B>", "</B>", false);
+    else if (key.compare("Italic", Qt::CaseInsensitive) == 0) WrapSelection(*app_, "<I>", "</I>", false);
+    else if (key.compare("Underline", Qt::CaseInsensitive) == 0) WrapSelection(*app_, "<U>", "</U>", false);
+    if (EditControl* e = app_->ActiveEdit()) e->SetFocus();
+  } else if (toolbar == "tbrTools") {
+    if (key.compare("Color Tags", Qt::CaseInsensitive) == 0) mnuColorize(*app_, true);
+  }
+}
+
+void MDIForm1::FileNew() {
+  if (!app_) return;
+  NewDocumentWindow(*app_);
+  UpdateMenusForDocumentCount();
+}
+
+void MDIForm1::FileOpen() {
+  if (!app_) return;
+  FileDialogRequest r;
+  r.title = "Open";
+  r.filter = kOpenSaveFilter;
+  r.filterIndex = app_->files.LastFilterIndex ? app_->files.LastFilterIndex : 2;
+  r.initialFolder = app_->settings.WorkingDirectory;
+  const FileDialogAnswer a = app_->fileDialogs.Show(r);
+  if (a.path.empty()) return;
+  app_->files.LastFilterIndex = static_cast<std::int16_t>(a.filterIndex);
+  OpenFile(*app_, a.path);
+  UpdateMenusForDocumentCount();
+}
+
+void MDIForm1::FileSave(bool saveAs) {
+  DocumentWindow* w = app_ ? app_->ActiveDocument() : nullptr;
+  if (!w) return;
+  const std::string name =
+      saveAs || CaptionIsUntitledForPrompt(w->Caption()) ? SaveAsDialog(*app_) : w->Caption();
+  if (name.empty()) return;
+  tessarine::SaveFile(*app_, *w, name, SaveMode::Command);
+  SetSaveButtonEnabled(false);
+}
+
+void MDIForm1::ToggleToolbar(QToolBar* bar, const char* key) {
+  const bool show = !bar->isVisible();
+  bar->setVisible(show);
+  if (app_) app_->store.SaveSetting("Toolbars", key, show ? "on" : "off");
+  commands_[QString("mnuViewToolbar") + key]->setChecked(show);
+}
+
+void MDIForm1::closeEvent(QCloseEvent* event) {
+  if (!app_) return QMainWindow::closeEvent(event);
+  WindowGeometry g;
+  const QRect r = normalGeometry().isValid() ? normalGeometry() : geometry();
+  g.left = static_cast<long long>(r.x()) * kTwipsPerPixel;
+  g.top = static_cast<long long>(r.y()) * kTwipsPerPixel;
+  g.width = static_cast<long long>(r.width()) * kTwipsPerPixel;
+  g.height = static_cast<long long>(r.height()) * kTwipsPerPixel;
+  const QList<int> sizes = hsplit_->sizes();
+  const int sideIndex = hsplit_->indexOf(tabStrip1_);
+  if (sideIndex >= 0 && sideIndex < sizes.size())
+    g.fileListWidth = std::to_string(static_cast<long long>(sizes[sideIndex]) * kTwipsPerPixel);
+  g.file1Top = app_->store.GetSetting("Window", "File1Top", "");
+  g.sideBarTab = std::to_string(tabStrip1_->currentIndex() + 1);
+  g.shortcutBarGroup = shortcutBarGroup_;
+  if (!CloseAllForExit(*app_)) {
+    event->ignore();
+    return;
+  }
+  SaveWindowGeometry(app_->store, g, isMinimized());
+  event->accept();
+}
+
+}  // namespace tessarine

@@ -1,0 +1,106 @@
+#include "ui/QtPlatform.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QSettings>
+#include <QStringList>
+
+namespace tessarine {
+
+namespace {
+QString Q(const std::string& s) { return QString::fromUtf8(s.data(), static_cast<int>(s.size())); }
+std::string S(const QString& s) { return s.toUtf8().toStdString(); }
+QString KeyPath(const std::string& section, const std::string& key) {
+  return Q(section) + QLatin1Char('/') + Q(key);
+}
+}  // namespace
+
+QtSettingsStore::QtSettingsStore()
+    : settings_(new QSettings(QSettings::IniFormat, QSettings::UserScope, "Tessarine", "Tessarine")) {}
+
+QtSettingsStore::~QtSettingsStore() { delete settings_; }
+
+QString QtSettingsStore::FileName() const { return settings_->fileName(); }
+
+std::string QtSettingsStore::GetSetting(const std::string& section, const std::string& key,
+                                        const std::string& defaultValue) const {
+  const QVariant v = settings_->value(KeyPath(section, key));
+  if (!v.isValid()) return defaultValue;
+  // A value that reads back as a list was written by hand with commas: keep its text.
+  if (v.userType() == QMetaType::QStringList) return S(v.toStringList().join(", "));
+  return S(v.toString());
+}
+
+void QtSettingsStore::SaveSetting(const std::string& section, const std::string& key,
+                                  const std::string& value) {
+  settings_->setValue(KeyPath(section, key), Q(value));
+  settings_->sync();
+}
+
+void QtSettingsStore::DeleteSetting(const std::string& section, const std::string& key) {
+  settings_->remove(KeyPath(section, key));
+  settings_->sync();
+}
+
+MsgAnswer QtMessageBoxes::Show(const std::string& text, MsgButtons buttons, MsgIcon icon,
+                               const std::string& title) {
+  QMessageBox box(parent_);
+  box.setWindowTitle(Q(title));
+  box.setText(Q(text));
+  switch (icon) {
+    case MsgIcon::Critical: box.setIcon(QMessageBox::Critical); break;
+    case MsgIcon::Question: box.setIcon(QMessageBox::Question); break;
+    case MsgIcon::Exclamation: box.setIcon(QMessageBox::Warning); break;
+    case MsgIcon::Information: box.setIcon(QMessageBox::Information); break;
+    case MsgIcon::None: break;
+  }
+  QMessageBox::StandardButtons b = QMessageBox::Ok;
+  switch (buttons) {
+    case MsgButtons::OK: b = QMessageBox::Ok; break;
+    case MsgButtons::OKCancel: b = QMessageBox::Ok | QMessageBox::Cancel; break;
+    case MsgButtons::YesNo: b = QMessageBox::Yes | QMessageBox::No; break;
+    case MsgButtons::YesNoCancel: b = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel; break;
+    case MsgButtons::RetryCancel: b = QMessageBox::Retry | QMessageBox::Cancel; break;
+  }
+  box.setStandardButtons(b);
+  switch (box.exec()) {
+    case QMessageBox::Yes: return MsgAnswer::Yes;
+    case QMessageBox::No: return MsgAnswer::No;
+    case QMessageBox::Retry: return MsgAnswer::Retry;
+    case QMessageBox::Ok: return MsgAnswer::OK;
+    default: return MsgAnswer::Cancel;
+  }
+}
+
+QString QtFileDialogs::ToQtFilter(const std::string& filter, QStringList* list) {
+  const QStringList parts = Q(filter).split(QLatin1Char('|'));
+  QStringList out;
+  for (int i = 0; i + 1 < parts.size(); i += 2) {
+    QString patterns = parts[i + 1];
+    patterns.replace(QLatin1Char(';'), QLatin1Char(' '));
+    out << parts[i] + " (" + patterns + ")";
+  }
+  if (list) *list = out;
+  return out.join(";;");
+}
+
+FileDialogAnswer QtFileDialogs::Show(const FileDialogRequest& r) {
+  QFileDialog dialog(parent_, Q(r.title), Q(r.initialFolder));
+  QStringList filters;
+  ToQtFilter(r.filter, &filters);
+  dialog.setNameFilters(filters);
+  if (r.filterIndex >= 1 && r.filterIndex <= filters.size())
+    dialog.selectNameFilter(filters[r.filterIndex - 1]);
+  dialog.setAcceptMode(r.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog.setFileMode(r.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  if (!r.confirmOverwrite) dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  if (!r.fileName.empty()) dialog.selectFile(Q(r.fileName));
+  FileDialogAnswer a;
+  a.filterIndex = r.filterIndex;
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return a;
+  a.path = S(dialog.selectedFiles().first());
+  a.filterIndex = static_cast<int>(filters.indexOf(dialog.selectedNameFilter())) + 1;
+  return a;
+}
+
+}  // namespace tessarine

@@ -1,0 +1,52 @@
+#pragma once
+// The Qt versions of the platform interfaces that need no window of their own.
+
+#include <QString>
+
+#include "platform/FileDialogs.h"
+#include "platform/MessageBoxes.h"
+#include "platform/SettingsStore.h"
+
+class QWidget;
+class QSettings;
+
+namespace tessarine {
+
+// QSettings, INI format, user scope, organisation and application "Tessarine".
+class QtSettingsStore : public SettingsStore {
+ public:
+  QtSettingsStore();
+  ~QtSettingsStore() override;
+  std::string GetSetting(const std::string& section, const std::string& key,
+                         const std::string& defaultValue) const override;
+  void SaveSetting(const std::string& section, const std::string& key,
+                   const std::string& value) override;
+  void DeleteSetting(const std::string& section, const std::string& key) override;
+  QString FileName() const;
+
+ private:
+  QSettings* settings_;
+};
+
+class QtMessageBoxes : public MessageBoxes {
+ public:
+  void SetParent(QWidget* parent) { parent_ = parent; }
+  MsgAnswer Show(const std::string& text, MsgButtons buttons, MsgIcon icon,
+                 const std::string& title) override;
+
+ private:
+  QWidget* parent_ = nullptr;
+};
+
+class QtFileDialogs : public FileDialogs {
+ public:
+  void SetParent(QWidget* parent) { parent_ = parent; }
+  FileDialogAnswer Show(const FileDialogRequest& request) override;
+  // "Text (*.txt)|*.txt|..." into Qt's "Text (*.txt) (*.txt);;..." keeping the order.
+  static QString ToQtFilter(const std::string& filter, QStringList* list = nullptr);
+
+ private:
+  QWidget* parent_ = nullptr;
+};
+
+}  // namespace tessarine
