@@ -1,0 +1,308 @@
+#include "ui/SciEdit.h"
+
+#include <QEvent>
+
+#include <algorithm>
+#include <cstring>
+
+namespace tessarine {
+namespace {
+
+constexpr Pos kAppendChunk = 1 << 20;
+
+// Strict UTF-8: no overlong forms, no surrogates, nothing above U+10FFFF.
+bool IsValidUtf8(std::string_view s) {
+  const auto* p = reinterpret_cast<const unsigned char*>(s.data());
+  const auto* end = p + s.size();
+  while (p < end) {
+    // Runs of ASCII are the common case: eight bytes at a time.
+    while (end - p >= 8) {
+      std::uint64_t word;
+      std::memcpy(&word, p, 8);
+      if (word & 0x8080808080808080ULL) break;
+      p += 8;
+    }
+    if (p == end) break;
+    const unsigned char c = *p;
+    if (c < 0x80) {
+      ++p;
+      continue;
+    }
+    int extra;
+    unsigned char lo = 0x80, hi = 0xBF;
+    if (c >= 0xC2 && c <= 0xDF) {
+      extra = 1;
+    } else if (c >= 0xE0 && c <= 0xEF) {
+      extra = 2;
+      if (c == 0xE0) lo = 0xA0;
+      if (c == 0xED) hi = 0x9F;
+    } else if (c >= 0xF0 && c <= 0xF4) {
+      extra = 3;
+      if (c == 0xF0) lo = 0x90;
+      if (c == 0xF4) hi = 0x8F;
+    } else {
+      return false;
+    }
+    if (end - p <= extra) return false;
+    if (p[1] < lo || p[1] > hi) return false;
+    for (int i = 2; i <= extra; ++i)
+      if ((p[i] & 0xC0) != 0x80) return false;
+    p += extra + 1;
+  }
+  return true;
+}
+
+}  // namespace
+
+// Collects the change notifications of one operation (or one input event) and sends a
+// single one when the outermost operation ends, outside the widget's modification
+// notification, where the handler may again change the text.
+class SciEdit::ChangeBatch {
+ public:
+  explicit ChangeBatch(SciEdit& edit) : edit_(edit) { ++edit_.batchDepth_; }
+  ~ChangeBatch() {
+    if (--edit_.batchDepth_ == 0 && edit_.changePending_) {
+      edit_.changePending_ = false;
+      edit_.NotifyChanged();
+    }
+  }
+  ChangeBatch(const ChangeBatch&) = delete;
+  ChangeBatch& operator=(const ChangeBatch&) = delete;
+
+ private:
+  SciEdit& edit_;
+};
+
+SciEdit::SciEdit(QWidget* parent) : QsciScintilla(parent) {
+  // Our colouring owns every style byte: container lexing, and a style-needed request is
+  // answered by marking the text styled as it stands.
+  if (Send(SCI_GETLEXER) != SCLEX_CONTAINER) Send(SCI_SETLEXER, SCLEX_CONTAINER);
+  connect(this, &QsciScintillaBase::SCN_STYLENEEDED, this,
+          [this](int position) { Send(SCI_STARTSTYLING, static_cast<unsigned long>(position)); });
+  connect(this, &QsciScintillaBase::SCN_MODIFIED, this,
+          [this](int position, int type, const char*, int length, int, int, int, int, int, int) {
+            OnModified(position, type, length);
+          });
+  Send(SCI_SETMODEVENTMASK, static_cast<unsigned long>(Send(SCI_GETMODEVENTMASK) |
+                                                       SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT));
+  Send(SCI_SETEOLMODE, SC_EOL_CRLF);
+  Send(SCI_SETPASTECONVERTENDINGS, 1);
+  Send(SCI_SETWRAPMODE, SC_WRAP_NONE);
+}
+
+void SciEdit::ApplyStyleTable(const StyleTable& table) {
+  const auto define = [this](unsigned long style, const StyleLook& look) {
+    Send(SCI_STYLESETFORE, style, look.color & 0xFFFFFF);
+    Send(SCI_STYLESETBOLD, style, look.bold);
+    Send(SCI_STYLESETITALIC, style, look.italic);
+    if (!look.fontName.empty())
+      SendScintilla(SCI_STYLESETFONT, static_cast<uintptr_t>(style), look.fontName.c_str());
+    if (look.fontSize > 0) Send(SCI_STYLESETSIZE, style, look.fontSize);
+  };
+  define(STYLE_DEFAULT, table[0]);
+  Send(SCI_STYLECLEARALL);
+  for (int i = 0; i < kStyleCount; ++i)
+    define(static_cast<unsigned long>(i), table[static_cast<size_t>(i)]);
+}
+
+std::string_view SciEdit::View() const {
+  const auto* p = static_cast<const char*>(SendScintillaPtrResult(SCI_GETCHARACTERPOINTER));
+  const Pos n = Length();
+  return n > 0 && p ? std::string_view(p, static_cast<size_t>(n)) : std::string_view();
+}
+
+Pos SciEdit::Length() const { return Send(SCI_GETLENGTH); }
+
+std::string SciEdit::Text() const { return std::string(View()); }
+
+std::string SciEdit::TextRange(Pos start, Pos length) const {
+  const Pos total = Length();
+  start = std::clamp<Pos>(start, 0, total);
+  length = std::clamp<Pos>(length, 0, total - start);
+  if (length == 0) return {};
+  // The range pointer only moves the gap when the range straddles it.
+  const auto* p = reinterpret_cast<const char*>(
+      SendScintilla(SCI_GETRANGEPOINTER, static_cast<unsigned long>(start), length));
+  return std::string(p, static_cast<size_t>(length));
+}
+
+void SciEdit::SetText(std::string_view bytes) {
+  ChangeBatch batch(*this);
+  loading_ = true;
+  Send(SCI_SETUNDOCOLLECTION, 0);
+  Send(SCI_CLEARALL);
+  // Decided per load: single-byte mode keeps any byte sequence one position per byte.
+  setUtf8(IsValidUtf8(bytes));
+  Send(SCI_ALLOCATE, bytes.size() + 1);
+  for (size_t done = 0; done < bytes.size();) {
+    const size_t n = std::min<size_t>(kAppendChunk, bytes.size() - done);
+    SendScintilla(SCI_APPENDTEXT, static_cast<uintptr_t>(n), bytes.data() + done);
+    done += n;
+  }
+  Send(SCI_SETUNDOCOLLECTION, 1);
+  Send(SCI_EMPTYUNDOBUFFER);
+  Send(SCI_SETSAVEPOINT);
+  Send(SCI_SETEOLMODE, SC_EOL_CRLF);
+  Send(SCI_STARTSTYLING, 0);
+  Send(SCI_SETSTYLING, bytes.size(), baseStyle_);
+  Send(SCI_GOTOPOS, 0);
+  loading_ = false;
+  explicitSet_ = false;
+  changePending_ = true;  // a load is a change even when both texts are empty
+}
+
+Pos SciEdit::SelStart() const { return Send(SCI_GETSELECTIONSTART); }
+
+Pos SciEdit::SelLength() const { return Send(SCI_GETSELECTIONEND) - Send(SCI_GETSELECTIONSTART); }
+
+void SciEdit::SetSelStart(Pos start) {
+  if (start < 0) return;
+  Send(SCI_GOTOPOS, static_cast<unsigned long>(std::min(start, Length())));
+  ForgetInsertionStyleIfMoved();
+}
+
+void SciEdit::SetSelLength(Pos length) {
+  if (length < 0) return;
+  const Pos start = SelStart();
+  length = std::min(length, Length() - start);
+  Send(SCI_SETSEL, static_cast<unsigned long>(start), start + length);
+  ForgetInsertionStyleIfMoved();
+}
+
+std::string SciEdit::SelText() const { return TextRange(SelStart(), SelLength()); }
+
+void SciEdit::ReplaceTarget(Pos start, Pos length, std::string_view bytes) {
+  Send(SCI_SETTARGETRANGE, static_cast<unsigned long>(start), start + length);
+  SendScintilla(SCI_REPLACETARGET, static_cast<uintptr_t>(bytes.size()),
+                bytes.empty() ? "" : bytes.data());
+}
+
+void SciEdit::ReplaceSel(std::string_view bytes) {
+  const Pos start = SelStart(), length = SelLength();
+  if (length == 0 && bytes.empty()) return;
+  ChangeBatch batch(*this);
+  ReplaceTarget(start, length, bytes);
+  Send(SCI_GOTOPOS, static_cast<unsigned long>(start + static_cast<Pos>(bytes.size())));
+  ForgetInsertionStyleIfMoved();
+}
+
+void SciEdit::ReplaceRange(Pos start, Pos length, std::string_view bytes) {
+  const Pos total = Length();
+  start = std::clamp<Pos>(start, 0, total);
+  length = std::clamp<Pos>(length, 0, total - start);
+  if (length == 0 && bytes.empty()) return;
+  ChangeBatch batch(*this);
+  ReplaceTarget(start, length, bytes);
+  ForgetInsertionStyleIfMoved();
+}
+
+void SciEdit::SetInsertionStyle(Style style) {
+  explicitSet_ = true;
+  explicitPos_ = SelStart();
+  explicitEnd_ = Send(SCI_GETSELECTIONEND);
+  explicitStyle_ = style;
+}
+
+Style SciEdit::InsertionStyleAt(Pos pos) const {
+  if (explicitSet_ && explicitPos_ == pos && SelStart() == pos) return explicitStyle_;
+  return pos > 0 ? StyleAt(pos - 1) : baseStyle_;
+}
+
+Style SciEdit::InsertionStyle() const { return InsertionStyleAt(SelStart()); }
+
+void SciEdit::ForgetInsertionStyleIfMoved() {
+  if (explicitSet_ && (SelStart() != explicitPos_ || Send(SCI_GETSELECTIONEND) != explicitEnd_))
+    explicitSet_ = false;
+}
+
+void SciEdit::OnModified(int position, int type, int length) {
+  if (!(type & (SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT))) return;
+  // The widget inserts with style 0; typed, pasted, replaced and restored text takes the
+  // insertion style instead. Styling is allowed inside this notification, editing is not.
+  if ((type & SC_MOD_INSERTTEXT) && !loading_ && length > 0) {
+    Send(SCI_STARTSTYLING, static_cast<unsigned long>(position));
+    Send(SCI_SETSTYLING, static_cast<unsigned long>(length), InsertionStyleAt(position));
+  }
+  if (batchDepth_ > 0) {
+    changePending_ = true;
+  } else {
+    NotifyChanged();
+  }
+}
+
+void SciEdit::SetStyles(Pos start, const Style* styles, Pos count) {
+  const Pos total = Length();
+  start = std::clamp<Pos>(start, 0, total);
+  count = std::clamp<Pos>(count, 0, total - start);
+  if (count == 0) return;
+  Send(SCI_STARTSTYLING, static_cast<unsigned long>(start));
+  SendScintilla(SCI_SETSTYLINGEX, static_cast<uintptr_t>(count),
+                reinterpret_cast<const char*>(styles));
+}
+
+void SciEdit::FillStyle(Pos start, Pos count, Style style) {
+  const Pos total = Length();
+  start = std::clamp<Pos>(start, 0, total);
+  count = std::clamp<Pos>(count, 0, total - start);
+  if (count == 0) return;
+  Send(SCI_STARTSTYLING, static_cast<unsigned long>(start));
+  Send(SCI_SETSTYLING, static_cast<unsigned long>(count), style);
+}
+
+Style SciEdit::StyleAt(Pos pos) const {
+  if (pos < 0 || pos >= Length()) return 0;
+  return static_cast<Style>(Send(SCI_GETSTYLEAT, static_cast<unsigned long>(pos)) & 0xFF);
+}
+
+void SciEdit::SetWordWrap(bool wrap) { Send(SCI_SETWRAPMODE, wrap ? SC_WRAP_WORD : SC_WRAP_NONE); }
+
+bool SciEdit::WordWrap() const { return Send(SCI_GETWRAPMODE) != SC_WRAP_NONE; }
+
+void SciEdit::EmptyUndoBuffer() { Send(SCI_EMPTYUNDOBUFFER); }
+
+bool SciEdit::CanUndo() const { return Send(SCI_CANUNDO) != 0; }
+
+void SciEdit::Undo() {
+  ChangeBatch batch(*this);
+  Send(SCI_UNDO);
+  ForgetInsertionStyleIfMoved();
+}
+
+namespace {
+
+bool IsEditingInput(QEvent::Type type) {
+  switch (type) {
+    case QEvent::KeyPress:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Drop:
+    case QEvent::ContextMenu:
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+bool SciEdit::event(QEvent* e) {
+  // Other events may delete the widget (DeferredDelete): touch nothing after them.
+  if (!IsEditingInput(e->type())) return QsciScintilla::event(e);
+  ChangeBatch batch(*this);
+  const bool handled = QsciScintilla::event(e);
+  ForgetInsertionStyleIfMoved();
+  return handled;
+}
+
+bool SciEdit::viewportEvent(QEvent* e) {
+  if (!IsEditingInput(e->type())) return QsciScintilla::viewportEvent(e);
+  ChangeBatch batch(*this);
+  const bool handled = QsciScintilla::viewportEvent(e);
+  ForgetInsertionStyleIfMoved();
+  return handled;
+}
+
+}  // namespace tessarine

@@ -1,0 +1,84 @@
+#pragma once
+// The document window's edit control on QScintilla. Talks to the widget in byte positions
+// through SendScintilla only: QScintilla's QString and line/index conveniences convert the
+// text, stop at NUL bytes or walk long lines character by character.
+
+#include <Qsci/qsciscintilla.h>
+
+#include <string_view>
+
+#include "core/Styles.h"
+#include "platform/EditControl.h"
+
+namespace tessarine {
+
+class SciEdit : public QsciScintilla, public EditControl {
+  Q_OBJECT
+
+ public:
+  explicit SciEdit(QWidget* parent = nullptr);
+
+  // Defines styles 0..31 (and the default style, from entry 0) from the table.
+  void ApplyStyleTable(const StyleTable& table);
+  // The text in place, valid until the next change; no copy of a large document.
+  std::string_view View() const;
+
+  Pos Length() const override;
+  std::string Text() const override;
+  std::string TextRange(Pos start, Pos length) const override;
+  void SetText(std::string_view bytes) override;
+
+  Pos SelStart() const override;
+  Pos SelLength() const override;
+  void SetSelStart(Pos start) override;
+  void SetSelLength(Pos length) override;
+  std::string SelText() const override;
+  void ReplaceSel(std::string_view bytes) override;
+  void ReplaceRange(Pos start, Pos length, std::string_view bytes) override;
+
+  void SetInsertionStyle(Style style) override;
+  Style InsertionStyle() const override;
+  void SetBaseStyle(Style style) override { baseStyle_ = style; }
+
+  void SetStyles(Pos start, const Style* styles, Pos count) override;
+  void FillStyle(Pos start, Pos count, Style style) override;
+  Style StyleAt(Pos pos) const override;
+
+  void SetVisible(bool visible) override { setVisible(visible); }
+  bool IsVisible() const override { return !isHidden(); }
+  void SetFocus() override { setFocus(); }
+  void SetWordWrap(bool wrap) override;
+  bool WordWrap() const override;
+
+  void EmptyUndoBuffer() override;
+  bool CanUndo() const override;
+  void Undo() override;
+
+ protected:
+  // User input arrives here; edits made while handling one event are reported once, after
+  // the widget has finished with it.
+  bool event(QEvent* e) override;
+  bool viewportEvent(QEvent* e) override;
+
+ private:
+  class ChangeBatch;
+
+  long Send(unsigned int msg, unsigned long wParam = 0, long lParam = 0) const {
+    return SendScintilla(msg, wParam, lParam);
+  }
+  void OnModified(int position, int type, int length);
+  Style InsertionStyleAt(Pos pos) const;
+  void ReplaceTarget(Pos start, Pos length, std::string_view bytes);
+  void ForgetInsertionStyleIfMoved();
+
+  Style baseStyle_ = 0;
+  bool explicitSet_ = false;
+  Pos explicitPos_ = 0;  // the selection it was set on
+  Pos explicitEnd_ = 0;
+  Style explicitStyle_ = 0;
+  bool loading_ = false;
+  int batchDepth_ = 0;
+  bool changePending_ = false;
+};
+
+}  // namespace tessarine
