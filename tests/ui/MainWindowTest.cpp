@@ -1,0 +1,183 @@
+// The main window under Qt's offscreen platform, wired to the real logic.
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QTemporaryDir>
+#include <QToolBar>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "core/Application.h"
+#include "core/Styles.h"
+#include "platform/FileDialogs.h"
+#include "platform/MessageBoxes.h"
+#include "platform/SettingsStore.h"
+#include "ui/Form2.h"
+#include "ui/MDIForm1.h"
+#include "ui/SciEdit.h"
+
+namespace tessarine {
+namespace {
+
+std::string Slurp(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::ostringstream s;
+  s << in.rdbuf();
+  return s.str();
+}
+
+class MainWindowTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(dir.isValid());
+    qputenv("XDG_DATA_HOME", (dir.path() + "/data").toUtf8());
+  }
+  void Start(const std::string& commandLine = "") {
+    frame = std::make_unique<MDIForm1>();
+    app = std::make_unique<Application>(*frame, messages, store, dialogs,
+                                        dir.path().toStdString());
+    frame->show();
+    frame->Load(*app, commandLine);
+    QApplication::processEvents();
+  }
+  void TearDown() override {
+    if (frame) {
+      // Nothing left to ask about: close quietly.
+      for (int i = 1; i <= app->documents.UpperBound(); ++i) app->documents.State(i).Changed = false;
+      frame->close();
+      QApplication::processEvents();
+    }
+  }
+  Form2* Active() { return dynamic_cast<Form2*>(frame->ActiveDocumentWindow()); }
+  std::string Path(const char* name) { return (dir.path() + "/" + name).toStdString(); }
+
+  QTemporaryDir dir;
+  MemorySettingsStore store;
+  ScriptedMessageBoxes messages;
+  ScriptedFileDialogs dialogs;
+  std::unique_ptr<MDIForm1> frame;
+  std::unique_ptr<Application> app;
+};
+
+TEST_F(MainWindowTest, FirstStartShowsUntitledOneWithTheFramesToolbars) {
+  Start();
+  // A maximised child shows its caption after the frame's.
+  EXPECT_TRUE(frame->windowTitle().startsWith("Tessarine 2002"));
+  ASSERT_NE(Active(), nullptr);
+  EXPECT_EQ(Active()->Caption(), "Untitled:1");
+  EXPECT_EQ(store.GetSetting("Miscellaneous", "FirstRun", ""), "no");
+  EXPECT_TRUE(std::filesystem::exists(dir.path().toStdString() + "/data/applications/tessarine.desktop"));
+
+  for (const char* bar : {"tbrFile", "tbrFormat", "tbrInsert", "tbrTools"})
+    EXPECT_TRUE(frame->Toolbar(bar)->isVisible()) << bar;
+  EXPECT_EQ(frame->Button("tbrFile", "Open")->toolTip(), "Open (Ctrl-O)");
+  EXPECT_EQ(frame->Button("tbrTools", "Color Tags")->toolTip(), "Refresh HTML tag colors (F2)");
+  EXPECT_EQ(frame->Button("tbrInsert", "Frames")->toolTip(), "Frame Wizard");
+  EXPECT_TRUE(frame->Button("tbrFormat", "Bold")->isEnabled());
+  // Commands of later parts are present but dimmed.
+  EXPECT_FALSE(frame->Button("tbrInsert", "Hyperlink")->isEnabled());
+  // Nothing changed yet: no Save.
+  EXPECT_FALSE(frame->Button("tbrFile", "Save")->isEnabled());
+}
+
+TEST_F(MainWindowTest, BoldWrapsTheSelectionInTheConfiguredCase) {
+  store.SaveSetting("Miscellaneous", "TagCase", "lower");
+  Start();
+  EditControl& e = Active()->Edit();
+  e.ReplaceSel("say Hello");
+  e.Select(4, 5);
+  frame->Command("mnuPhysicalStyles0")->trigger();
+  EXPECT_EQ(e.Text(), "say <b>Hello</b>");
+  EXPECT_EQ(e.SelText(), "Hello");
+  EXPECT_TRUE(app->documents.State(1).Changed);
+  EXPECT_TRUE(frame->Button("tbrFile", "Save")->isEnabled());
+  frame->Button("tbrFormat", "Italic")->trigger();
+  EXPECT_EQ(e.Text(), "say <b><i>Hello</i></b>");
+}
+
+TEST_F(MainWindowTest, RefreshColoursTheDocument) {
+  Start();
+  EditControl& e = Active()->Edit();
+  e.ReplaceSel("x <TD A=\"1\">");
+  e.SetSelStart(1);
+  frame->Command("mnuColorize")->trigger();
+  EXPECT_EQ(KindOf(e.StyleAt(0)), StyleKind::Plain);
+  EXPECT_EQ(KindOf(e.StyleAt(2)), StyleKind::Table);
+  EXPECT_EQ(KindOf(e.StyleAt(8)), StyleKind::Quote);
+  EXPECT_EQ(KindOf(e.StyleAt(11)), StyleKind::Table);
+  EXPECT_EQ(e.SelStart(), 1);
+  EXPECT_TRUE(e.IsVisible());
+  EXPECT_EQ(frame->StatusText(), "Press F1 for help");
+  EXPECT_EQ(app->colorizing.ColorizingInProgress, 0);
+}
+
+TEST_F(MainWindowTest, OpenEditSaveAndReopenAFile) {
+  const std::string path = Path("page.htm");
+  std::ofstream(path, std::ios::binary) << "<P>one</P>\r\n";
+  Start(path);
+  ASSERT_NE(Active(), nullptr);
+  EXPECT_EQ(Active()->Caption(), path);
+  EditControl& e = Active()->Edit();
+  EXPECT_EQ(e.Text(), "<P>one</P>");  // one trailing CR LF is the save's own
+  EXPECT_EQ(KindOf(e.StyleAt(0)), StyleKind::Tag);
+  e.SetSelStart(e.Length());
+  e.ReplaceSel("\r\ntwo");
+  frame->Command("FileSave")->trigger();
+  EXPECT_EQ(Slurp(path), "<P>one</P>\r\ntwo\r\n");
+  EXPECT_FALSE(app->documents.State(1).Changed);
+
+  ASSERT_TRUE(Active()->RequestClose());
+  QApplication::processEvents();
+  EXPECT_EQ(frame->ActiveDocumentWindow(), nullptr);
+  EXPECT_FALSE(frame->Button("tbrFormat", "Bold")->isEnabled());
+
+  dialogs.Queue(path);
+  frame->Command("FileOpen")->trigger();
+  ASSERT_NE(Active(), nullptr);
+  EXPECT_EQ(Active()->Edit().Text(), "<P>one</P>\r\ntwo");
+  EXPECT_EQ(Active()->Caption(), path);
+}
+
+TEST_F(MainWindowTest, ClosingAskedAboutChangesAndCancelKeepsEverything) {
+  Start();
+  Active()->Edit().ReplaceSel("text");
+  messages.Queue(MsgAnswer::Cancel);
+  frame->close();
+  QApplication::processEvents();
+  ASSERT_EQ(messages.shown().size(), 1u);
+  EXPECT_EQ(messages.shown()[0].text,
+            "The text in [Untitled:1] has changed.\r\nDo you want to save the changes?");
+  EXPECT_EQ(messages.shown()[0].buttons, MsgButtons::YesNoCancel);
+  ASSERT_NE(Active(), nullptr);
+  EXPECT_FALSE(store.Has("Window", "WindowXSize"));
+
+  // No: the window goes and the geometry is kept in twips.
+  messages.Queue(MsgAnswer::No);
+  frame->setGeometry(10, 20, 800, 600);
+  frame->close();
+  QApplication::processEvents();
+  EXPECT_EQ(store.GetSetting("Window", "WindowXSize", ""), std::to_string(800 * 15));
+  EXPECT_EQ(store.GetSetting("Window", "WindowYSize", ""), std::to_string(600 * 15));
+  frame.reset();
+}
+
+TEST_F(MainWindowTest, SlotsAreReusedLowestFirst) {
+  Start();
+  frame->Command("mnuNewFile")->trigger();
+  frame->Command("mnuNewFile")->trigger();
+  auto subs = frame->MdiArea()->subWindowList(QMdiArea::CreationOrder);
+  ASSERT_EQ(subs.size(), 3);
+  auto* first = qobject_cast<Form2*>(subs[0]->widget());
+  ASSERT_TRUE(first->RequestClose());
+  QApplication::processEvents();
+  frame->Command("mnuNewFile")->trigger();
+  EXPECT_EQ(Active()->Caption(), "Untitled:1");
+}
+
+}  // namespace
+}  // namespace tessarine
