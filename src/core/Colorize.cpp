@@ -15,7 +15,8 @@ class SpanWriter {
  public:
   SpanWriter(Style* styles, Pos length, Style base, PassResult& result)
       : styles_(styles), length_(length), result_(result) {
-    std::memset(styles_, base, static_cast<size_t>(length_));
+    // An empty text may come with no array at all.
+    if (length_ > 0) std::memset(styles_, base, static_cast<size_t>(length_));
     result_.lastSelStart = 0;
     result_.lastSelLength = length_;
   }
