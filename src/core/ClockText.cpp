@@ -5,8 +5,9 @@
 namespace tessarine {
 
 namespace {
-const char* const kMonths[] = {"January", "February", "March",     "April",   "May",      "June",
-                               "July",    "August",   "September", "October", "November", "December"};
+const char* const kMonths[] = {"January",   "February", "March",    "April",
+                               "May",       "June",     "July",     "August",
+                               "September", "October",  "November", "December"};
 }
 
 std::string ClockPanelText(const std::tm& t) {

@@ -67,7 +67,9 @@ class Yielder {
   Pos next_ = 0;
 };
 
-char Upper(char c) { return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c; }
+char Upper(char c) {
+  return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
+}
 
 bool StartsWithUpper(std::string_view s, std::string_view prefix) {
   if (s.size() < prefix.size()) return false;

@@ -28,6 +28,8 @@ void RunPass(Application& app, DocumentWindow& window, Pass pass) {
   auto alive = [&] { return app.documents.IsAlive(&window, serial); };
 
   app.colorizing.ColorizingInProgress = 1;
+  // Only an Esc pressed while this pass runs may stop it.
+  app.colorizing.CancelColorizing = false;
   edit.SetVisible(false);
   const std::string text = edit.Text();
   const Pos savedCaret = edit.SelStart();
@@ -47,7 +49,8 @@ void RunPass(Application& app, DocumentWindow& window, Pass pass) {
   std::vector<Style> styles(text.size());
   const PassResult r =
       pass == Pass::Tags
-          ? tessarine::ColorizeTags(text, {app.settings.Flags, app.settings.Bold}, styles.data(), yield)
+          ? tessarine::ColorizeTags(text, {app.settings.Flags, app.settings.Bold}, styles.data(),
+                                    yield)
           : tessarine::ColorizeScriptComments(text, app.settings.Bold, styles.data(), yield);
   if (gone) {
     app.frame.SetMousePointer(MousePointer::Default);
@@ -72,8 +75,10 @@ void RunPass(Application& app, DocumentWindow& window, Pass pass) {
       break;
     case PassEnd::Cancelled:
       app.frame.SetMousePointer(MousePointer::Default);
-      if (pass == Pass::Tags) edit.SetSelStart(0);
-      else edit.Select(r.lastSelStart, r.lastSelLength);
+      if (pass == Pass::Tags)
+        edit.SetSelStart(0);
+      else
+        edit.Select(r.lastSelStart, r.lastSelLength);
       app.colorizing.CancelColorizing = false;
       app.colorizing.ColorizingInProgress = 0;
       break;
@@ -86,7 +91,9 @@ void RunPass(Application& app, DocumentWindow& window, Pass pass) {
 
 }  // namespace
 
-void ColorizeTags(Application& app, DocumentWindow& window) { RunPass(app, window, Pass::Tags); }
+void ColorizeTags(Application& app, DocumentWindow& window) {
+  RunPass(app, window, Pass::Tags);
+}
 
 void ColorizeScriptComments(Application& app) {
   if (DocumentWindow* w = app.ActiveDocument()) RunPass(app, *w, Pass::ScriptComments);
@@ -123,8 +130,10 @@ void mnuColorize(Application& app, bool fromToolbar) {
 }
 
 namespace {
+// Clearing the insertion colour leaves bold and italic as they are.
 Style PlainInsertion(EditControl& e) {
-  return MakeStyle(StyleKind::Plain, IsBold(e.InsertionStyle()));
+  const Style s = e.InsertionStyle();
+  return MakeStyle(StyleKind::Plain, IsBold(s), IsItalic(s));
 }
 }  // namespace
 

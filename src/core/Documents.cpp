@@ -64,9 +64,9 @@ bool QueryUnload(Application& app, DocumentWindow& window) {
   if (slot == 0) return true;
   if (docs.State(slot).Changed) {
     const std::string caption = window.Caption();
-    const MsgAnswer answer =
-        app.messages.Show("The text in [" + caption + "] has changed.\r\nDo you want to save the changes?",
-                          MsgButtons::YesNoCancel, MsgIcon::Exclamation, app.title);
+    const MsgAnswer answer = app.messages.Show(
+        "The text in [" + caption + "] has changed.\r\nDo you want to save the changes?",
+        MsgButtons::YesNoCancel, MsgIcon::Exclamation, app.title);
     if (answer == MsgAnswer::Cancel) {
       window.Edit().SetFocus();
       return false;

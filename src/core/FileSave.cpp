@@ -49,13 +49,18 @@ int ErrnoToNumber(int e) {
     case EACCES:
     case EROFS:
     case EPERM:
-    case EISDIR: return 75;
+    case EISDIR:
+      return 75;
     case ENOSPC:
     case EDQUOT:
-    case EFBIG: return 61;
-    case ENOENT: return 53;
-    case ENOTDIR: return 76;
-    default: return 57;
+    case EFBIG:
+      return 61;
+    case ENOENT:
+      return 53;
+    case ENOTDIR:
+      return 76;
+    default:
+      return 57;
   }
 }
 
@@ -75,13 +80,20 @@ bool WriteAll(int fd, std::string_view bytes) {
 
 std::string ErrorDescription(int number) {
   switch (number) {
-    case 53: return "File not found";
-    case 57: return "Device I/O error";
-    case 61: return "Disk full";
-    case 71: return "Disk not ready";
-    case 75: return "Path/File access error";
-    case 76: return "Path not found";
-    default: return "Application-defined or object-defined error";
+    case 53:
+      return "File not found";
+    case 57:
+      return "Device I/O error";
+    case 61:
+      return "Disk full";
+    case 71:
+      return "Disk not ready";
+    case 75:
+      return "Path/File access error";
+    case 76:
+      return "Path not found";
+    default:
+      return "Application-defined or object-defined error";
   }
 }
 
@@ -103,7 +115,8 @@ int WriteFileReplacing(const std::string& path, std::string_view first, std::str
   const int fd = ::mkstemp(temp.data());
   if (fd < 0) return ErrnoToNumber(errno);
   int error = 0;
-  if (!WriteAll(fd, first) || !WriteAll(fd, second) || ::fsync(fd) != 0) error = ErrnoToNumber(errno);
+  if (!WriteAll(fd, first) || !WriteAll(fd, second) || ::fsync(fd) != 0)
+    error = ErrnoToNumber(errno);
   const mode_t mode = exists ? (st.st_mode & 07777) : [] {
     const mode_t mask = ::umask(0);
     ::umask(mask);

@@ -3,9 +3,9 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
-#include <cerrno>
 #include <fstream>
 #include <sstream>
 
@@ -90,7 +90,9 @@ void RegisterEditVerbs(Application&) {
          "Name=Tessarine\n"
          "GenericName=Edit with Tessarine\n"
          "Comment=Edit with Tessarine\n"
-         "Exec=\"" << exe.string() << "\" %f\n"
+         "Exec=\""
+      << exe.string()
+      << "\" %f\n"
          "MimeType=text/html;application/x-asp;text/javascript;application/javascript;\n"
          "Categories=Development;WebDevelopment;TextEditor;\n"
          "Terminal=false\n"
@@ -106,8 +108,10 @@ std::string PrepareApplicationFolder(const std::string& installed) {
     for (auto it = fs::recursive_directory_iterator(installed, ec);
          !ec && it != fs::recursive_directory_iterator(); it.increment(ec)) {
       const fs::path target = folder / fs::relative(it->path(), installed, ec);
-      if (it->is_directory(ec)) fs::create_directories(target, ec);
-      else if (!fs::exists(target, ec)) fs::copy_file(it->path(), target, ec);
+      if (it->is_directory(ec))
+        fs::create_directories(target, ec);
+      else if (!fs::exists(target, ec))
+        fs::copy_file(it->path(), target, ec);
     }
   }
   return folder.string();
@@ -131,7 +135,9 @@ bool IsDocumentOpen(Application& app, const std::string& path) {
 }
 
 // The number-to-string form: a leading blank where the sign would stand.
-std::string Str(int n) { return (n < 0 ? "" : " ") + std::to_string(n); }
+std::string Str(int n) {
+  return (n < 0 ? "" : " ") + std::to_string(n);
+}
 
 }  // namespace
 
@@ -152,7 +158,8 @@ bool OpenFile(Application& app, const std::string& path) {
   std::ostringstream bytes;
   bytes << in.rdbuf();
   std::string text = std::move(bytes).str();
-  if (text.size() >= 2 && text.compare(text.size() - 2, 2, "\r\n") == 0) text.resize(text.size() - 2);
+  if (text.size() >= 2 && text.compare(text.size() - 2, 2, "\r\n") == 0)
+    text.resize(text.size() - 2);
 
   DocumentWindow* window = NewDocumentWindow(app);
   window->SetCaption(path);

@@ -14,13 +14,27 @@ StyleTable BuildStyleTable(const SettingsVars& v) {
     look.fontName = v.DocumentFontName;
     look.fontSize = v.DocumentFontSize;
     switch (KindOf(s)) {
-      case StyleKind::Plain: look.color = 0; break;
-      case StyleKind::Tag: look.color = v.Colors.tagColor; break;
-      case StyleKind::Table: look.color = v.Colors.tableColor; break;
-      case StyleKind::Quote: look.color = v.Colors.quoteColor; break;
-      case StyleKind::Comment: look.color = v.Colors.commentColor; break;
-      case StyleKind::Server: look.color = v.Colors.aspColor; break;
-      case StyleKind::ScriptComment: look.color = kScriptCommentGrey; break;
+      case StyleKind::Plain:
+        look.color = 0;
+        break;
+      case StyleKind::Tag:
+        look.color = v.Colors.tagColor;
+        break;
+      case StyleKind::Table:
+        look.color = v.Colors.tableColor;
+        break;
+      case StyleKind::Quote:
+        look.color = v.Colors.quoteColor;
+        break;
+      case StyleKind::Comment:
+        look.color = v.Colors.commentColor;
+        break;
+      case StyleKind::Server:
+        look.color = v.Colors.aspColor;
+        break;
+      case StyleKind::ScriptComment:
+        look.color = kScriptCommentGrey;
+        break;
       case StyleKind::FindHit:
         look.color = kFindHitRed;
         look.bold = true;
@@ -32,8 +46,11 @@ StyleTable BuildStyleTable(const SettingsVars& v) {
       case StyleKind::Tag:
       case StyleKind::Table:
       case StyleKind::Quote:
-      case StyleKind::Server: look.fontName = v.HTMLTagFont; break;
-      default: break;
+      case StyleKind::Server:
+        look.fontName = v.HTMLTagFont;
+        break;
+      default:
+        break;
     }
   }
   return table;

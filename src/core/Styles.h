@@ -13,14 +13,14 @@ namespace tessarine {
 struct SettingsVars;
 
 enum class StyleKind : std::uint8_t {
-  Plain = 0,    // black text
-  Tag = 1,      // ordinary tag
-  Table = 2,    // table tag
-  Quote = 3,    // quoted attribute value
-  Comment = 4,  // <!-- -->
-  Server = 5,   // <% %> block
+  Plain = 0,          // black text
+  Tag = 1,            // ordinary tag
+  Table = 2,          // table tag
+  Quote = 3,          // quoted attribute value
+  Comment = 4,        // <!-- -->
+  Server = 5,         // <% %> block
   ScriptComment = 6,  // # comment of a script, fixed grey
-  FindHit = 7,  // red, bold, two points larger
+  FindHit = 7,        // red, bold, two points larger
 };
 
 constexpr Style kBoldBit = 8;
@@ -31,9 +31,15 @@ constexpr Style MakeStyle(StyleKind kind, bool bold = false, bool italic = false
   return static_cast<Style>(static_cast<Style>(kind) | (bold ? kBoldBit : 0) |
                             (italic ? kItalicBit : 0));
 }
-constexpr StyleKind KindOf(Style s) { return static_cast<StyleKind>(s & 7); }
-constexpr bool IsBold(Style s) { return (s & kBoldBit) != 0; }
-constexpr bool IsItalic(Style s) { return (s & kItalicBit) != 0; }
+constexpr StyleKind KindOf(Style s) {
+  return static_cast<StyleKind>(s & 7);
+}
+constexpr bool IsBold(Style s) {
+  return (s & kBoldBit) != 0;
+}
+constexpr bool IsItalic(Style s) {
+  return (s & kItalicBit) != 0;
+}
 
 // How one style looks. Colours have red in the low byte, as the settings store them.
 struct StyleLook {

@@ -18,7 +18,8 @@ std::string LCase(std::string_view text) {
 long long InStrNoCase(long long start, std::string_view text, std::string_view needle) {
   if (start < 1) start = 1;
   const auto lower = [](char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c; };
-  const auto from = text.begin() + std::min<long long>(start - 1, static_cast<long long>(text.size()));
+  const auto from =
+      text.begin() + std::min<long long>(start - 1, static_cast<long long>(text.size()));
   const auto it = std::search(from, text.end(), needle.begin(), needle.end(),
                               [&](char a, char b) { return lower(a) == lower(b); });
   if (it == text.end() && !needle.empty()) return 0;
@@ -74,7 +75,9 @@ void WrapSelection(Application& app, const std::string& startTag, const std::str
 void InsertInHeadAndBody(Application& app, std::string& headText, std::string& bodyText) {
   EditControl* e = app.ActiveEdit();
   if (!e) return;
-  const Style plain = MakeStyle(StyleKind::Plain, IsBold(e->InsertionStyle()));
+  EmptyUndoBuffer(app);
+  const Style insertion = e->InsertionStyle();
+  const Style plain = MakeStyle(StyleKind::Plain, IsBold(insertion), IsItalic(insertion));
   if (!bodyText.empty()) {
     const Pos selStart = e->SelStart(), selLength = e->SelLength();
     const std::string text = e->Text();

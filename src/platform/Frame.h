@@ -11,7 +11,12 @@ namespace tessarine {
 class DocumentWindow;
 
 enum class MousePointer { Default = 0, Hourglass = 11 };
-enum class WindowArrangement { Cascade = 0, TileHorizontal = 1, TileVertical = 2, ArrangeIcons = 3 };
+enum class WindowArrangement {
+  Cascade = 0,
+  TileHorizontal = 1,
+  TileVertical = 2,
+  ArrangeIcons = 3
+};
 
 class Frame {
  public:
@@ -24,7 +29,7 @@ class Frame {
 
   virtual void SetStatusText(const std::string& text) = 0;  // panel 1
   virtual std::string StatusText() const = 0;
-  virtual void SetLengthPanel(std::int64_t length) = 0;    // "n bytes"
+  virtual void SetLengthPanel(std::int64_t length) = 0;  // "n bytes"
   virtual void SetMousePointer(MousePointer pointer) = 0;
   virtual void SetToolbarButtonsEnabled(bool enabled) = 0;
   virtual void SetSaveButtonEnabled(bool enabled) = 0;

@@ -4,7 +4,9 @@
 
 namespace tessarine {
 
-void HeadlessDocumentWindow::Activate() { frame_.MakeActive(this); }
+void HeadlessDocumentWindow::Activate() {
+  frame_.MakeActive(this);
+}
 
 bool HeadlessDocumentWindow::RequestClose() {
   if (!QueryUnload()) return false;

@@ -13,9 +13,12 @@ MsgAnswer ScriptedMessageBoxes::Show(const std::string& text, MsgButtons buttons
   // Unscripted: the first button.
   switch (buttons) {
     case MsgButtons::YesNo:
-    case MsgButtons::YesNoCancel: return MsgAnswer::Yes;
-    case MsgButtons::RetryCancel: return MsgAnswer::Retry;
-    default: return MsgAnswer::OK;
+    case MsgButtons::YesNoCancel:
+      return MsgAnswer::Yes;
+    case MsgButtons::RetryCancel:
+      return MsgAnswer::Retry;
+    default:
+      return MsgAnswer::OK;
   }
 }
 

@@ -1,11 +1,13 @@
 #include "ui/Form2.h"
 
 #include <QCloseEvent>
+
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <algorithm>
 
 #include "core/Application.h"
 #include "core/ColorizeRun.h"
@@ -25,15 +27,30 @@ Form2::Form2(Application& app, QWidget* parent)
   grid->addWidget(lblPleaseWait_, 0, 0);
   grid->addWidget(edit_, 0, 0);
   edit_->raise();
+  // No gutter: the text starts 60 twips in, as the rich-text control had it.
+  for (int margin = 0; margin < 5; ++margin)
+    edit_->SendScintilla(QsciScintillaBase::SCI_SETMARGINWIDTHN, margin, 0L);
+  edit_->SendScintilla(QsciScintillaBase::SCI_SETMARGINLEFT, 0UL, 60L / 15);
   edit_->installEventFilter(this);
   ApplySettings();
 }
 
-void Form2::ApplySettings() { edit_->ApplyStyleTable(BuildStyleTable(app_.settings)); }
+void Form2::ApplySettings() {
+  edit_->ApplyStyleTable(BuildStyleTable(app_.settings));
+  // Tab stops every 200 twips, in characters of the document font.
+  const int stop = 200 / 15;
+  const long space = edit_->SendScintilla(QsciScintillaBase::SCI_TEXTWIDTH, 0UL, " ");
+  edit_->SendScintilla(QsciScintillaBase::SCI_SETTABWIDTH,
+                       std::max(1L, (stop + space / 2) / std::max(1L, space)));
+}
 
-EditControl& Form2::Edit() { return *edit_; }
+EditControl& Form2::Edit() {
+  return *edit_;
+}
 
-std::string Form2::Caption() const { return windowTitle().toUtf8().toStdString(); }
+std::string Form2::Caption() const {
+  return windowTitle().toUtf8().toStdString();
+}
 
 void Form2::SetCaption(const std::string& caption) {
   setWindowTitle(QString::fromUtf8(caption.data(), static_cast<int>(caption.size())));
@@ -41,11 +58,15 @@ void Form2::SetCaption(const std::string& caption) {
 
 void Form2::SetMaximized(bool maximized) {
   if (!sub_) return;
-  if (maximized) sub_->showMaximized();
-  else sub_->showNormal();
+  if (maximized)
+    sub_->showMaximized();
+  else
+    sub_->showNormal();
 }
 
-bool Form2::IsMaximized() const { return sub_ && sub_->isMaximized(); }
+bool Form2::IsMaximized() const {
+  return sub_ && sub_->isMaximized();
+}
 
 void Form2::Activate() {
   if (!sub_) return;
@@ -53,11 +74,15 @@ void Form2::Activate() {
   if (!sub_->isVisible()) sub_->show();
 }
 
-bool Form2::RequestClose() { return sub_ ? sub_->close() : close(); }
+bool Form2::RequestClose() {
+  return sub_ ? sub_->close() : close();
+}
 
 void Form2::closeEvent(QCloseEvent* event) {
-  if (QueryUnload()) event->accept();
-  else event->ignore();
+  if (QueryUnload())
+    event->accept();
+  else
+    event->ignore();
 }
 
 bool Form2::eventFilter(QObject* watched, QEvent* event) {
@@ -70,7 +95,8 @@ bool Form2::eventFilter(QObject* watched, QEvent* event) {
       OnQuoteKeyDown(app_, *this);
   } else if (watched == edit_ && event->type() == QEvent::KeyRelease) {
     const auto* k = static_cast<QKeyEvent*>(event);
-    if (k->key() == Qt::Key_Greater) OnGreaterThanKeyUp(app_, *this);
+    if (k->key() == Qt::Key_Greater)
+      OnGreaterThanKeyUp(app_, *this);
     else if (k->key() == Qt::Key_QuoteDbl || k->key() == Qt::Key_Apostrophe)
       OnQuoteKeyUp(app_, *this);
   }

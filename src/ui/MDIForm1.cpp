@@ -39,7 +39,9 @@ namespace tessarine {
 
 namespace {
 
-QString Q(const std::string& s) { return QString::fromUtf8(s.data(), static_cast<int>(s.size())); }
+QString Q(const std::string& s) {
+  return QString::fromUtf8(s.data(), static_cast<int>(s.size()));
+}
 
 struct ButtonDef {
   const char* key;
@@ -48,10 +50,10 @@ struct ButtonDef {
 };
 
 const ButtonDef kFileButtons[] = {
-    {"New", "New Document", true},          {"Open", "Open (Ctrl-O)", true},
-    {"Save", "Save (Ctrl-S)", true},        {"Print", "Print", false},
-    {"Cut", "Cut (Ctrl-X)", false},         {"Copy", "Copy (Ctrl-C)", false},
-    {"Paste", "Paste (Ctrl-V)", false},     {"Find", "Find/Search (Ctrl-F)", false},
+    {"New", "New Document", true},      {"Open", "Open (Ctrl-O)", true},
+    {"Save", "Save (Ctrl-S)", true},    {"Print", "Print", false},
+    {"Cut", "Cut (Ctrl-X)", false},     {"Copy", "Copy (Ctrl-C)", false},
+    {"Paste", "Paste (Ctrl-V)", false}, {"Find", "Find/Search (Ctrl-F)", false},
 };
 const ButtonDef kFormatButtons[] = {
     {"Bold", "Bold (Ctrl-B)", true},
@@ -80,10 +82,13 @@ const ButtonDef kInsertButtons[] = {
     {"Numbered List", "Create Numbered List", false},
 };
 const ButtonDef kToolsButtons[] = {
-    {"Browser1", "Browser1", false},      {"Browser2", "Browser2", false},
+    {"Browser1", "Browser1", false},
+    {"Browser2", "Browser2", false},
     {"Color Tags", "Refresh HTML tag colors (F2)", true},
-    {"Color Picker", "Color Picker", false}, {"Spellcheck", "Spellcheck", false},
-    {"Check Links", "Check Links", false},  {"Validate", "Validate", false},
+    {"Color Picker", "Color Picker", false},
+    {"Spellcheck", "Spellcheck", false},
+    {"Check Links", "Check Links", false},
+    {"Validate", "Validate", false},
     {"FTP", "FTP", false},
 };
 
@@ -123,7 +128,9 @@ MDIForm1::MDIForm1() : mdiArea_(new QMdiArea) {
   qApp->installEventFilter(this);
 }
 
-MDIForm1::~MDIForm1() { qApp->removeEventFilter(this); }
+MDIForm1::~MDIForm1() {
+  qApp->removeEventFilter(this);
+}
 
 void MDIForm1::BuildPanels() {
   // Error list under the documents, hidden until the validator fills it.
@@ -197,7 +204,8 @@ void MDIForm1::BuildToolbars() {
       a->setData(d.works);
       a->setEnabled(d.works);
       buttons_[a->objectName()] = a;
-      const bool anyDocument = QString(name) == "tbrFile" && (QString(d.key) == "New" || QString(d.key) == "Open");
+      const bool anyDocument =
+          QString(name) == "tbrFile" && (QString(d.key) == "New" || QString(d.key) == "Open");
       if (!anyDocument) needDocument_ << a;
       const QString bar_ = name, key = d.key;
       connect(a, &QAction::triggered, this, [this, bar_, key] { OnToolbarButton(bar_, key); });
@@ -227,9 +235,15 @@ void MDIForm1::BuildMenus() {
   };
   QMenu* file = menuBar()->addMenu("&File");
   command(file, "mnuNewFile", "&New", false, [this] { FileNew(); })->setShortcut(QKeySequence::New);
-  command(file, "FileOpen", "&Open...", false, [this] { FileOpen(); })->setShortcut(QKeySequence::Open);
-  command(file, "FileClose", "&Close", true, [this] { if (app_) CloseActiveDocument(*app_); });
-  command(file, "FileSave", "&Save", true, [this] { FileSave(false); })->setShortcut(QKeySequence::Save);
+  command(file, "FileOpen", "&Open...", false, [this] {
+    FileOpen();
+  })->setShortcut(QKeySequence::Open);
+  command(file, "FileClose", "&Close", true, [this] {
+    if (app_) CloseActiveDocument(*app_);
+  });
+  command(file, "FileSave", "&Save", true, [this] {
+    FileSave(false);
+  })->setShortcut(QKeySequence::Save);
   command(file, "FileSaveAs", "Save &As...", true, [this] { FileSave(true); });
   file->addSeparator();
   command(file, "mnuFileExit", "E&xit", false, [this] { close(); });
@@ -249,10 +263,8 @@ void MDIForm1::BuildMenus() {
 
   QMenu* view = menuBar()->addMenu("&View");
   QMenu* bars = view->addMenu("&Toolbars");
-  const std::pair<const char*, const char*> toggles[] = {{"tbrFile", "File"},
-                                                         {"tbrFormat", "Format"},
-                                                         {"tbrInsert", "Insert"},
-                                                         {"tbrTools", "Tools"}};
+  const std::pair<const char*, const char*> toggles[] = {
+      {"tbrFile", "File"}, {"tbrFormat", "Format"}, {"tbrInsert", "Insert"}, {"tbrTools", "Tools"}};
   for (const auto& [bar, key] : toggles) {
     QToolBar* tb = toolbars_[bar];
     const QString name = QString("mnuViewToolbar") + key;
@@ -277,22 +289,31 @@ void MDIForm1::BuildMenus() {
   documentMenus_ << window;
   const char* arrange[] = {"&Cascade", "Tile &Horizontally", "Tile &Vertically", "&Arrange Icons"};
   for (int i = 0; i < 4; ++i)
-    command(window, QString("mnuWindowArrange%1").arg(i), arrange[i], true,
-            [this, i] { if (app_) mnuWindowArrange(*app_, i); });
+    command(window, QString("mnuWindowArrange%1").arg(i), arrange[i], true, [this, i] {
+      if (app_) mnuWindowArrange(*app_, i);
+    });
   window->addSeparator();
-  command(window, "mnuWindowMove0", "Move to &Previous document    Ctrl+Tab", true,
-          [this] { if (app_) mnuWindowMove(*app_, 0); });
-  command(window, "mnuWindowMove1", "Move to &Next document          Shift+Ctrl+Tab", true,
-          [this] { if (app_) mnuWindowMove(*app_, 1); });
+  command(window, "mnuWindowMove0", "Move to &Previous document    Ctrl+Tab", true, [this] {
+    if (app_) mnuWindowMove(*app_, 0);
+  });
+  command(window, "mnuWindowMove1", "Move to &Next document          Shift+Ctrl+Tab", true, [this] {
+    if (app_) mnuWindowMove(*app_, 1);
+  });
   window->addSeparator();
-  command(window, "mnuCloseAll", "Cl&ose All", true, [this] { if (app_) CloseAllDocuments(*app_); });
+  command(window, "mnuCloseAll", "Cl&ose All", true, [this] {
+    if (app_) CloseAllDocuments(*app_);
+  });
 
   menuBar()->addMenu("&Help")->addAction("&About Tessarine");
 }
 
 void MDIForm1::BuildStatusBar() {
-  const char* tips[] = {nullptr, nullptr, nullptr, nullptr,
-                        "Double-click to insert current time and date", "CapsLock",
+  const char* tips[] = {nullptr,
+                        nullptr,
+                        nullptr,
+                        nullptr,
+                        "Double-click to insert current time and date",
+                        "CapsLock",
                         "Insert/Overwrite"};
   for (int i = 1; i <= 6; ++i) {
     if (i == 2) continue;  // no second panel
@@ -301,8 +322,10 @@ void MDIForm1::BuildStatusBar() {
     if (tips[i]) l->setToolTip(tips[i]);
     l->setFrameStyle(QFrame::Panel | QFrame::Sunken);
     panels_[i] = l;
-    if (i == 1) statusBar()->addWidget(l, 1);
-    else statusBar()->addPermanentWidget(l);
+    if (i == 1)
+      statusBar()->addWidget(l, 1);
+    else
+      statusBar()->addPermanentWidget(l);
   }
   panels_[1]->setText("Press F1 for Help");
   panels_[3]->setText("0 bytes");
@@ -361,11 +384,12 @@ void MDIForm1::Load(Application& app, const std::string& commandLine) {
   setGeometry(p.x, p.y, std::max(p.width, 200), std::max(p.height, 150));
 
   const std::string listWidth = s.GetSetting("Window", "FileListWidth", "");
-  const int side = listWidth.empty() ? 220 : std::max(50, static_cast<int>(Val(listWidth)) / kTwipsPerPixel);
+  const int side =
+      listWidth.empty() ? 220 : std::max(50, static_cast<int>(Val(listWidth)) / kTwipsPerPixel);
   if (app.settings.AlignFileListLeft) hsplit_->insertWidget(0, tabStrip1_);
   const int total = std::max(p.width, 400);
   hsplit_->setSizes(app.settings.AlignFileListLeft ? QList<int>{side, total - side}
-                                                    : QList<int>{total - side, side});
+                                                   : QList<int>{total - side, side});
   const int tab = static_cast<int>(Val(s.GetSetting("Window", "SideBarTab", "2")));
   if (tab >= 1 && tab <= tabStrip1_->count()) tabStrip1_->setCurrentIndex(tab - 1);
   tabStrip1_->setVisible(app.settings.ShowFileList);
@@ -373,7 +397,8 @@ void MDIForm1::Load(Application& app, const std::string& commandLine) {
   shortcutBarGroup_ = s.GetSetting("Miscellaneous", "DefaultShortcutBarGroup", "");
 
   for (const char* key : {"File", "Format", "Insert", "Tools"}) {
-    const bool off = QString::fromStdString(s.GetSetting("Toolbars", key, "on")).compare("off", Qt::CaseInsensitive) == 0;
+    const bool off = QString::fromStdString(s.GetSetting("Toolbars", key, "on"))
+                         .compare("off", Qt::CaseInsensitive) == 0;
     toolbars_[QString("tbr") + key]->setVisible(!off);
     commands_[QString("mnuViewToolbar") + key]->setChecked(!off);
   }
@@ -399,9 +424,8 @@ DocumentWindow* MDIForm1::CreateDocumentWindow() {
   QMdiSubWindow* sub = mdiArea_->addSubWindow(form);
   sub->setAttribute(Qt::WA_DeleteOnClose);
   form->SetSubWindow(sub);
-  connect(sub, &QObject::destroyed, this, [this] {
-    QTimer::singleShot(0, this, [this] { UpdateMenusForDocumentCount(); });
-  });
+  connect(sub, &QObject::destroyed, this,
+          [this] { QTimer::singleShot(0, this, [this] { UpdateMenusForDocumentCount(); }); });
   connect(&form->RichTextBox1(), &QsciScintilla::cursorPositionChanged, this,
           [this](int line, int) { panels_[4]->setText(QString("Line: %1").arg(line + 1)); });
   sub->show();
@@ -415,21 +439,32 @@ DocumentWindow* MDIForm1::ActiveDocumentWindow() {
 }
 
 void MDIForm1::ActivateNextDocument(bool previous) {
-  if (previous) mdiArea_->activatePreviousSubWindow();
-  else mdiArea_->activateNextSubWindow();
+  if (previous)
+    mdiArea_->activatePreviousSubWindow();
+  else
+    mdiArea_->activateNextSubWindow();
 }
 
 void MDIForm1::Arrange(WindowArrangement how) {
   switch (how) {
-    case WindowArrangement::Cascade: mdiArea_->cascadeSubWindows(); break;
+    case WindowArrangement::Cascade:
+      mdiArea_->cascadeSubWindows();
+      break;
     case WindowArrangement::TileHorizontal:
-    case WindowArrangement::TileVertical: mdiArea_->tileSubWindows(); break;
-    case WindowArrangement::ArrangeIcons: break;  // no icons on this desktop
+    case WindowArrangement::TileVertical:
+      mdiArea_->tileSubWindows();
+      break;
+    case WindowArrangement::ArrangeIcons:
+      break;  // no icons on this desktop
   }
 }
 
-void MDIForm1::SetStatusText(const std::string& text) { panels_[1]->setText(Q(text)); }
-std::string MDIForm1::StatusText() const { return panels_[1]->text().toStdString(); }
+void MDIForm1::SetStatusText(const std::string& text) {
+  panels_[1]->setText(Q(text));
+}
+std::string MDIForm1::StatusText() const {
+  return panels_[1]->text().toStdString();
+}
 void MDIForm1::SetLengthPanel(std::int64_t length) {
   panels_[3]->setText(QString::number(length) + " bytes");
 }
@@ -438,23 +473,34 @@ void MDIForm1::SetMousePointer(MousePointer pointer) {
   const bool wait = pointer == MousePointer::Hourglass;
   if (wait == hourglass_) return;
   hourglass_ = wait;
-  if (wait) QApplication::setOverrideCursor(Qt::WaitCursor);
-  else QApplication::restoreOverrideCursor();
+  if (wait)
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  else
+    QApplication::restoreOverrideCursor();
 }
 
 void MDIForm1::SetToolbarButtonsEnabled(bool enabled) {
-  for (QAction* a : needDocument_) a->setEnabled(enabled && (!a->data().isValid() || a->data().toBool()));
+  for (QAction* a : needDocument_)
+    a->setEnabled(enabled && (!a->data().isValid() || a->data().toBool()));
 }
 
-void MDIForm1::SetSaveButtonEnabled(bool enabled) { buttons_["tbrFile/Save"]->setEnabled(enabled); }
+void MDIForm1::SetSaveButtonEnabled(bool enabled) {
+  buttons_["tbrFile/Save"]->setEnabled(enabled);
+}
 
-void MDIForm1::ProcessEvents() { QCoreApplication::processEvents(); }
+void MDIForm1::ProcessEvents() {
+  QCoreApplication::processEvents();
+}
 
 QAction* MDIForm1::Button(const QString& toolbar, const QString& key) const {
   return buttons_.value(toolbar + "/" + key);
 }
-QAction* MDIForm1::Command(const QString& name) const { return commands_.value(name); }
-QToolBar* MDIForm1::Toolbar(const QString& name) const { return toolbars_.value(name); }
+QAction* MDIForm1::Command(const QString& name) const {
+  return commands_.value(name);
+}
+QToolBar* MDIForm1::Toolbar(const QString& name) const {
+  return toolbars_.value(name);
+}
 
 void MDIForm1::UpdateMenusForDocumentCount() {
   const bool any = !mdiArea_->subWindowList().isEmpty();
@@ -465,13 +511,19 @@ void MDIForm1::UpdateMenusForDocumentCount() {
 void MDIForm1::OnToolbarButton(const QString& toolbar, const QString& key) {
   if (!app_) return;
   if (toolbar == "tbrFile") {
-    if (key == "New") FileNew();
-    else if (key == "Open") FileOpen();
-    else if (key == "Save") FileSave(false);
+    if (key == "New")
+      FileNew();
+    else if (key == "Open")
+      FileOpen();
+    else if (key == "Save")
+      FileSave(false);
   } else if (toolbar == "tbrFormat") {
-    if (key.compare("Bold", Qt::CaseInsensitive) == 0) WrapSelection(*app_, "<B>", "</B>", false);
-    else if (key.compare("Italic", Qt::CaseInsensitive) == 0) WrapSelection(*app_, "<I>", "</I>", false);
-    else if (key.compare("Underline", Qt::CaseInsensitive) == 0) WrapSelection(*app_, "<U>", "</U>", false);
+    if (key.compare("Bold", Qt::CaseInsensitive) == 0)
+      WrapSelection(*app_, "<B>", "</B>", false);
+    else if (key.compare("Italic", Qt::CaseInsensitive) == 0)
+      WrapSelection(*app_, "<I>", "</I>", false);
+    else if (key.compare("Underline", Qt::CaseInsensitive) == 0)
+      WrapSelection(*app_, "<U>", "</U>", false);
     if (EditControl* e = app_->ActiveEdit()) e->SetFocus();
   } else if (toolbar == "tbrTools") {
     if (key.compare("Color Tags", Qt::CaseInsensitive) == 0) mnuColorize(*app_, true);

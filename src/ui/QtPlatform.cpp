@@ -8,19 +8,28 @@
 namespace tessarine {
 
 namespace {
-QString Q(const std::string& s) { return QString::fromUtf8(s.data(), static_cast<int>(s.size())); }
-std::string S(const QString& s) { return s.toUtf8().toStdString(); }
+QString Q(const std::string& s) {
+  return QString::fromUtf8(s.data(), static_cast<int>(s.size()));
+}
+std::string S(const QString& s) {
+  return s.toUtf8().toStdString();
+}
 QString KeyPath(const std::string& section, const std::string& key) {
   return Q(section) + QLatin1Char('/') + Q(key);
 }
 }  // namespace
 
 QtSettingsStore::QtSettingsStore()
-    : settings_(new QSettings(QSettings::IniFormat, QSettings::UserScope, "Tessarine", "Tessarine")) {}
+    : settings_(
+          new QSettings(QSettings::IniFormat, QSettings::UserScope, "Tessarine", "Tessarine")) {}
 
-QtSettingsStore::~QtSettingsStore() { delete settings_; }
+QtSettingsStore::~QtSettingsStore() {
+  delete settings_;
+}
 
-QString QtSettingsStore::FileName() const { return settings_->fileName(); }
+QString QtSettingsStore::FileName() const {
+  return settings_->fileName();
+}
 
 std::string QtSettingsStore::GetSetting(const std::string& section, const std::string& key,
                                         const std::string& defaultValue) const {
@@ -48,27 +57,51 @@ MsgAnswer QtMessageBoxes::Show(const std::string& text, MsgButtons buttons, MsgI
   box.setWindowTitle(Q(title));
   box.setText(Q(text));
   switch (icon) {
-    case MsgIcon::Critical: box.setIcon(QMessageBox::Critical); break;
-    case MsgIcon::Question: box.setIcon(QMessageBox::Question); break;
-    case MsgIcon::Exclamation: box.setIcon(QMessageBox::Warning); break;
-    case MsgIcon::Information: box.setIcon(QMessageBox::Information); break;
-    case MsgIcon::None: break;
+    case MsgIcon::Critical:
+      box.setIcon(QMessageBox::Critical);
+      break;
+    case MsgIcon::Question:
+      box.setIcon(QMessageBox::Question);
+      break;
+    case MsgIcon::Exclamation:
+      box.setIcon(QMessageBox::Warning);
+      break;
+    case MsgIcon::Information:
+      box.setIcon(QMessageBox::Information);
+      break;
+    case MsgIcon::None:
+      break;
   }
   QMessageBox::StandardButtons b = QMessageBox::Ok;
   switch (buttons) {
-    case MsgButtons::OK: b = QMessageBox::Ok; break;
-    case MsgButtons::OKCancel: b = QMessageBox::Ok | QMessageBox::Cancel; break;
-    case MsgButtons::YesNo: b = QMessageBox::Yes | QMessageBox::No; break;
-    case MsgButtons::YesNoCancel: b = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel; break;
-    case MsgButtons::RetryCancel: b = QMessageBox::Retry | QMessageBox::Cancel; break;
+    case MsgButtons::OK:
+      b = QMessageBox::Ok;
+      break;
+    case MsgButtons::OKCancel:
+      b = QMessageBox::Ok | QMessageBox::Cancel;
+      break;
+    case MsgButtons::YesNo:
+      b = QMessageBox::Yes | QMessageBox::No;
+      break;
+    case MsgButtons::YesNoCancel:
+      b = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+      break;
+    case MsgButtons::RetryCancel:
+      b = QMessageBox::Retry | QMessageBox::Cancel;
+      break;
   }
   box.setStandardButtons(b);
   switch (box.exec()) {
-    case QMessageBox::Yes: return MsgAnswer::Yes;
-    case QMessageBox::No: return MsgAnswer::No;
-    case QMessageBox::Retry: return MsgAnswer::Retry;
-    case QMessageBox::Ok: return MsgAnswer::OK;
-    default: return MsgAnswer::Cancel;
+    case QMessageBox::Yes:
+      return MsgAnswer::Yes;
+    case QMessageBox::No:
+      return MsgAnswer::No;
+    case QMessageBox::Retry:
+      return MsgAnswer::Retry;
+    case QMessageBox::Ok:
+      return MsgAnswer::OK;
+    default:
+      return MsgAnswer::Cancel;
   }
 }
 

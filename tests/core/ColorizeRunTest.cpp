@@ -112,6 +112,15 @@ TEST(ColorizeRun, EscDuringAPassKeepsTheColoursSoFarAndLeavesTheRestPlain) {
   EXPECT_EQ(t.frame.StatusText(), kReady);
 }
 
+TEST(ColorizeRun, AnEscPressedBeforeAPassDoesNotStopIt) {
+  TestApp t;
+  auto& w = t.NewWindow(BigPage());
+  OnDocumentKeyPress(t.app, 27);
+  ColorizeTags(t.app, w);
+  EXPECT_EQ(t.frame.StatusText(), kReady);
+  EXPECT_TRUE(w.Buffer().IsVisible());
+}
+
 TEST(ColorizeRun, EscInAScriptPassLeavesTheSelectionWhereItStands) {
   TestApp t;
   std::string script;

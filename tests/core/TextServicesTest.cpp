@@ -111,6 +111,12 @@ TEST_F(TextServices, TypingBeforeAnInsertionCannotBeUndone) {
   edit->Undo();
   edit->Undo();
   EXPECT_EQ(edit->Text(), "abcd");
+
+  edit->Type("e");
+  std::string head = "<BASE>", body;
+  InsertInHeadAndBody(t.app, head, body);
+  while (edit->CanUndo()) edit->Undo();
+  EXPECT_NE(edit->Text().find("abcde"), std::string::npos);
 }
 
 const std::string kPage =

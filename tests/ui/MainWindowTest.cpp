@@ -39,8 +39,7 @@ class MainWindowTest : public ::testing::Test {
   }
   void Start(const std::string& commandLine = "") {
     frame = std::make_unique<MDIForm1>();
-    app = std::make_unique<Application>(*frame, messages, store, dialogs,
-                                        dir.path().toStdString());
+    app = std::make_unique<Application>(*frame, messages, store, dialogs, dir.path().toStdString());
     frame->show();
     frame->Load(*app, commandLine);
     QApplication::processEvents();
@@ -48,7 +47,8 @@ class MainWindowTest : public ::testing::Test {
   void TearDown() override {
     if (frame) {
       // Nothing left to ask about: close quietly.
-      for (int i = 1; i <= app->documents.UpperBound(); ++i) app->documents.State(i).Changed = false;
+      for (int i = 1; i <= app->documents.UpperBound(); ++i)
+        app->documents.State(i).Changed = false;
       frame->close();
       QApplication::processEvents();
     }
@@ -71,7 +71,8 @@ TEST_F(MainWindowTest, FirstStartShowsUntitledOneWithTheFramesToolbars) {
   ASSERT_NE(Active(), nullptr);
   EXPECT_EQ(Active()->Caption(), "Untitled:1");
   EXPECT_EQ(store.GetSetting("Miscellaneous", "FirstRun", ""), "no");
-  EXPECT_TRUE(std::filesystem::exists(dir.path().toStdString() + "/data/applications/tessarine.desktop"));
+  EXPECT_TRUE(
+      std::filesystem::exists(dir.path().toStdString() + "/data/applications/tessarine.desktop"));
 
   for (const char* bar : {"tbrFile", "tbrFormat", "tbrInsert", "tbrTools"})
     EXPECT_TRUE(frame->Toolbar(bar)->isVisible()) << bar;
