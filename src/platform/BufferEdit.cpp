@@ -23,56 +23,77 @@ void BufferEdit::SetSelStart(Pos start) {
   if (start < 0) return;
   selStart_ = std::min(start, Length());
   selLength_ = 0;
+  ForgetInsertionStyleIfMoved();
 }
 
 void BufferEdit::SetSelLength(Pos length) {
   if (length < 0) return;
   selLength_ = std::min(length, Length() - selStart_);
+  ForgetInsertionStyleIfMoved();
 }
 
-std::string BufferEdit::SelText() const { return TextRange(selStart_, selLength_); }
+std::string BufferEdit::SelText() const {
+  return TextRange(selStart_, selLength_);
+}
 
 void BufferEdit::SetInsertionStyle(Style style) {
   insertionStyle_ = style;
   insertionStyleSet_ = true;
   insertionStylePos_ = selStart_;
+  insertionStyleEnd_ = selStart_ + selLength_;
 }
 
 Style BufferEdit::InsertionStyle() const {
-  if (insertionStyleSet_ && insertionStylePos_ == selStart_) return insertionStyle_;
+  if (insertionStyleSet_) return insertionStyle_;
   return selStart_ > 0 ? styles_[static_cast<size_t>(selStart_ - 1)] : baseStyle_;
 }
 
+void BufferEdit::ForgetInsertionStyleIfMoved() {
+  if (selStart_ != insertionStylePos_ || selStart_ + selLength_ != insertionStyleEnd_)
+    insertionStyleSet_ = false;
+}
+
 void BufferEdit::Replace(Pos start, Pos length, std::string_view bytes, bool recordUndo) {
-  const Style style = insertionStyleSet_ && insertionStylePos_ == start && start == selStart_
+  const auto inserted = static_cast<Pos>(bytes.size());
+  // Both ends of the selection follow the deletion, then the insertion; an end at the
+  // insertion point stays in front of the new text.
+  const auto afterDelete = [&](Pos p) {
+    return p <= start ? p : p <= start + length ? start : p - length;
+  };
+  Pos anchor = afterDelete(selStart_), caret = afterDelete(selStart_ + selLength_);
+  const Style style = insertionStyleSet_ && insertionStylePos_ == start && anchor == start
                           ? insertionStyle_
                       : start > 0 ? styles_[static_cast<size_t>(start - 1)]
                                   : baseStyle_;
   const auto s = static_cast<size_t>(start), l = static_cast<size_t>(length);
-  if (recordUndo) undo_.push_back({start, text_.substr(s, l), static_cast<Pos>(bytes.size())});
+  if (recordUndo) undo_.push_back({start, text_.substr(s, l), inserted});
   text_.replace(s, l, bytes);
   styles_.erase(styles_.begin() + static_cast<std::ptrdiff_t>(s),
                 styles_.begin() + static_cast<std::ptrdiff_t>(s + l));
   styles_.insert(styles_.begin() + static_cast<std::ptrdiff_t>(s), bytes.size(), style);
-  NotifyChanged();
+  if (anchor > start) anchor += inserted;
+  if (caret > start) caret += inserted;
+  selStart_ = anchor;
+  selLength_ = caret - anchor;
 }
 
 void BufferEdit::ReplaceSel(std::string_view bytes) {
-  Replace(selStart_, selLength_, bytes, true);
-  selStart_ += static_cast<Pos>(bytes.size());
+  if (selLength_ == 0 && bytes.empty()) return;
+  const Pos start = selStart_;
+  Replace(start, selLength_, bytes, true);
+  selStart_ = start + static_cast<Pos>(bytes.size());
   selLength_ = 0;
+  ForgetInsertionStyleIfMoved();
+  NotifyChanged();
 }
 
 void BufferEdit::ReplaceRange(Pos start, Pos length, std::string_view bytes) {
   start = std::clamp<Pos>(start, 0, Length());
   length = std::clamp<Pos>(length, 0, Length() - start);
-  const Pos caret = selStart_;
+  if (length == 0 && bytes.empty()) return;
   Replace(start, length, bytes, true);
-  // Keep the caret on the same text where it can.
-  const Pos delta = static_cast<Pos>(bytes.size()) - length;
-  if (caret >= start + length) selStart_ = caret + delta;
-  else if (caret > start) selStart_ = start;
-  selLength_ = 0;
+  ForgetInsertionStyleIfMoved();
+  NotifyChanged();
 }
 
 void BufferEdit::SetStyles(Pos start, const Style* styles, Pos count) {
@@ -96,10 +117,11 @@ void BufferEdit::Undo() {
   if (undo_.empty()) return;
   const UndoStep step = undo_.back();
   undo_.pop_back();
-  selStart_ = step.start;
-  selLength_ = 0;
   Replace(step.start, step.insertedLength, step.removed, false);
   selStart_ = step.start + static_cast<Pos>(step.removed.size());
+  selLength_ = 0;
+  ForgetInsertionStyleIfMoved();
+  NotifyChanged();
 }
 
 }  // namespace tessarine

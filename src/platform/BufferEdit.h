@@ -52,7 +52,10 @@ class BufferEdit : public EditControl {
     std::string removed;
     Pos insertedLength;
   };
+  // Replaces a range, moving the selection with its text as the widget does; no notice.
   void Replace(Pos start, Pos length, std::string_view bytes, bool recordUndo);
+  // An insertion style set on another selection no longer holds.
+  void ForgetInsertionStyleIfMoved();
 
   std::string text_;
   std::vector<Style> styles_;
@@ -60,7 +63,8 @@ class BufferEdit : public EditControl {
   Pos selLength_ = 0;
   Style baseStyle_ = 0;
   bool insertionStyleSet_ = false;
-  Pos insertionStylePos_ = 0;
+  Pos insertionStylePos_ = 0;  // the selection it was set on
+  Pos insertionStyleEnd_ = 0;
   Style insertionStyle_ = 0;
   bool visible_ = true;
   bool wordWrap_ = false;

@@ -67,6 +67,9 @@ class SciEdit : public QsciScintilla, public EditControl {
     return SendScintilla(msg, wParam, lParam);
   }
   void OnModified(int position, int type, int length);
+  // Lays the insertion style on the last inserted text, once it is in.
+  void FlushInsertion() const;
+  void FinishChange();
   Style InsertionStyleAt(Pos pos) const;
   void ReplaceTarget(Pos start, Pos length, std::string_view bytes);
   void ForgetInsertionStyleIfMoved();
@@ -79,6 +82,11 @@ class SciEdit : public QsciScintilla, public EditControl {
   bool loading_ = false;
   int batchDepth_ = 0;
   bool changePending_ = false;
+  bool finishQueued_ = false;
+  mutable bool pendingInsertion_ = false;
+  Pos pendingPos_ = 0;
+  Pos pendingLength_ = 0;
+  Style pendingStyle_ = 0;
 };
 
 }  // namespace tessarine
