@@ -149,8 +149,11 @@ void SciEdit::SetText(std::string_view bytes) {
   Send(SCI_EMPTYUNDOBUFFER);
   Send(SCI_SETSAVEPOINT);
   Send(SCI_SETEOLMODE, SC_EOL_CRLF);
-  Send(SCI_STARTSTYLING, 0);
-  Send(SCI_SETSTYLING, bytes.size(), baseStyle_);
+  // Appended text has style 0 already.
+  if (baseStyle_ != 0) {
+    Send(SCI_STARTSTYLING, 0);
+    Send(SCI_SETSTYLING, bytes.size(), baseStyle_);
+  }
   Send(SCI_GOTOPOS, 0);
   loading_ = false;
   explicitSet_ = false;
