@@ -182,6 +182,11 @@ void MDIForm1::BuildPanels() {
   hsplit_->addWidget(tabStrip1_);
   hsplit_->setStretchFactor(0, 1);
   hsplit_->setChildrenCollapsible(false);
+  vsplit_->setChildrenCollapsible(false);
+  // No pane smaller than 50 units.
+  tabStrip1_->setMinimumWidth(50);
+  mdiArea_->setMinimumSize(50, 50);
+  picErrorList_->setMinimumHeight(50);
   setCentralWidget(hsplit_);
 
   connect(mdiArea_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* sub) {
@@ -238,6 +243,13 @@ void MDIForm1::BuildMenus() {
   command(file, "FileOpen", "&Open...", false, [this] {
     FileOpen();
   })->setShortcut(QKeySequence::Open);
+  QMenu* projects = file->addMenu("&Projects");
+  projects->setObjectName("mnuProjects");
+  projects->setEnabled(false);
+  QMenu* import = file->addMenu("&Import");
+  import->setObjectName("mnuImport");
+  command(import, "mnuOpenMac", "&Mac File...", false, [] {})->setEnabled(false);
+  command(import, "mnuOpenUNIX", "&UNIX File...", false, [] {})->setEnabled(false);
   command(file, "FileClose", "&Close", true, [this] {
     if (app_) CloseActiveDocument(*app_);
   });
@@ -451,9 +463,23 @@ void MDIForm1::Arrange(WindowArrangement how) {
       mdiArea_->cascadeSubWindows();
       break;
     case WindowArrangement::TileHorizontal:
-    case WindowArrangement::TileVertical:
-      mdiArea_->tileSubWindows();
+    case WindowArrangement::TileVertical: {
+      // Horizontally: one above the other, full width; vertically: side by side.
+      const QList<QMdiSubWindow*> subs = mdiArea_->subWindowList(QMdiArea::StackingOrder);
+      const QRect area = mdiArea_->viewport()->rect();
+      const int n = static_cast<int>(subs.size());
+      for (QMdiSubWindow* sub : subs) sub->showNormal();
+      for (int i = 0; i < n; ++i) {
+        if (how == WindowArrangement::TileHorizontal) {
+          const int h = area.height() / n;
+          subs[i]->setGeometry(0, i * h, area.width(), h);
+        } else {
+          const int w = area.width() / n;
+          subs[i]->setGeometry(i * w, 0, w, area.height());
+        }
+      }
       break;
+    }
     case WindowArrangement::ArrangeIcons:
       break;  // no icons on this desktop
   }

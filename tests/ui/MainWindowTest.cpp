@@ -4,8 +4,11 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMouseEvent>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QToolBar>
 #include <filesystem>
@@ -165,6 +168,35 @@ TEST_F(MainWindowTest, ClosingAskedAboutChangesAndCancelKeepsEverything) {
   EXPECT_EQ(store.GetSetting("Window", "WindowXSize", ""), std::to_string(800 * 15));
   EXPECT_EQ(store.GetSetting("Window", "WindowYSize", ""), std::to_string(600 * 15));
   frame.reset();
+}
+
+TEST_F(MainWindowTest, DoubleClickOnTheClockInsertsDateAndTime) {
+  Start();
+  auto* clock = frame->findChild<QLabel*>("StatusBar1Clock");
+  ASSERT_NE(clock, nullptr);
+  EXPECT_EQ(clock->toolTip(), "Double-click to insert current time and date");
+  const QPointF at(2, 2);
+  QMouseEvent dbl(QEvent::MouseButtonDblClick, at, clock->mapToGlobal(at), Qt::LeftButton,
+                  Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(clock, &dbl);
+  const QString text = QString::fromStdString(Active()->Edit().Text());
+  EXPECT_TRUE(QRegularExpression("^[A-Z][a-z]+ \\d\\d, \\d{4}   \\d{1,2}:\\d\\d [AP]M$")
+                  .match(text)
+                  .hasMatch())
+      << text.toStdString();
+}
+
+TEST_F(MainWindowTest, TilingPlacesWindowsAboveOrBesideEachOther) {
+  Start();
+  frame->Command("mnuNewFile")->trigger();
+  frame->Command("mnuWindowArrange1")->trigger();
+  auto subs = frame->MdiArea()->subWindowList();
+  ASSERT_EQ(subs.size(), 2);
+  EXPECT_EQ(subs[0]->width(), subs[1]->width());
+  EXPECT_NE(subs[0]->y(), subs[1]->y());
+  frame->Command("mnuWindowArrange2")->trigger();
+  EXPECT_EQ(subs[0]->height(), subs[1]->height());
+  EXPECT_NE(subs[0]->x(), subs[1]->x());
 }
 
 TEST_F(MainWindowTest, SlotsAreReusedLowestFirst) {
