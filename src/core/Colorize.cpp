@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <cstring>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 #include "core/Styles.h"
 
 namespace tessarine {
@@ -66,6 +70,21 @@ class Yielder {
   const PassYield& yield_;
   Pos next_ = 0;
 };
+
+// The first of two characters in [p, end), or end.
+const char* FindEither(const char* p, const char* end, char a, char b) {
+#if defined(__SSE2__)
+  const __m128i va = _mm_set1_epi8(a), vb = _mm_set1_epi8(b);
+  for (; end - p >= 16; p += 16) {
+    const __m128i x = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+    const int mask = _mm_movemask_epi8(_mm_or_si128(_mm_cmpeq_epi8(x, va), _mm_cmpeq_epi8(x, vb)));
+    if (mask) return p + __builtin_ctz(static_cast<unsigned>(mask));
+  }
+#endif
+  for (; p < end; ++p)
+    if (*p == a || *p == b) return p;
+  return end;
+}
 
 char Upper(char c) {
   return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
@@ -142,27 +161,32 @@ PassResult ColorizeTags(std::string_view text, const ColorizeOptions& options, S
       return closerLen == 1 ? t[x] == '>' : (t[x] == '%' && x + 1 < n && t[x + 1] == '>');
     };
 
+    // Walk to the closer; only the closer's first character and quotes can matter, so
+    // jump from one of those to the next.
+    const char closerHead = closerLen == 1 ? '>' : '%';
+    const bool quotes = f.QuoteColorTags;
     while (!atCloser(p)) {
-      if (p == n - 1) {
+      const char* next = quotes ? FindEither(t + p + 1, t + n, closerHead, '"')
+                                : FindEither(t + p + 1, t + n, closerHead, closerHead);
+      if (next == t + n) {
         // An unterminated last tag: the pass stops where it stands.
         result.end = PassEnd::Abandoned;
-        result.position = p;
+        result.position = n - 1;
         return result;
       }
-      ++p;
-      if (f.QuoteColorTags && t[p] == '"') {
+      p = next - t;
+      if (quotes && t[p] == '"') {
         const Pos quoteStart = p;
         out.Write(start, p - start + 1, tagStyle);
         ++p;
         if (p > n - 1) {
           p = n - 1;  // the value scan ends with the text
-        } else {
-          while (t[p] != '"') {
-            if (p == n - 1) break;
-            ++p;
-            // An open quote ends at the next ">" of an ordinary tag; never under "%>".
-            if (closerLen == 1 && t[p] == '>') break;
-          }
+        } else if (t[p] != '"') {
+          // An open quote ends at the next ">" of an ordinary tag (not the character right
+          // after the quote); never under "%>".
+          const char* end = closerLen == 1 ? FindEither(t + p + 1, t + n, '"', '>')
+                                           : FindEither(t + p + 1, t + n, '"', '"');
+          p = end == t + n ? n - 1 : end - t;
         }
         out.Write(quoteStart, p - quoteStart + 1, quoteStyle);
         start = p + 1;
