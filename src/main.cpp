@@ -5,6 +5,7 @@
 
 #include "core/Application.h"
 #include "core/Startup.h"
+#include "platform/Platform.h"
 #include "ui/MDIForm1.h"
 #include "ui/QtPlatform.h"
 
@@ -22,10 +23,18 @@ int main(int argc, char** argv) {
   tessarine::QtSettingsStore store;
   tessarine::QtMessageBoxes messages;
   tessarine::QtFileDialogs dialogs;
+  tessarine::QtColorDialog colors;
+  tessarine::QtShell shell;
+  tessarine::QtClipboard clipboard;
+  tessarine::QtImageInfo images;
+  tessarine::SystemClock clock;
   tessarine::MDIForm1 frame;
   messages.SetParent(&frame);
   dialogs.SetParent(&frame);
-  tessarine::Application app(frame, messages, store, dialogs, folder);
+  colors.SetParent(&frame);
+  shell.SetParent(&frame);
+  tessarine::Application app(
+      {frame, messages, store, dialogs, colors, shell, clipboard, images, clock}, folder);
   app.defaultDocumentFolder = QDir::homePath().toStdString();
   frame.show();
   frame.Load(app, commandLine);

@@ -2,15 +2,20 @@
 
 #include "platform/DocumentWindow.h"
 #include "platform/Frame.h"
+#include "platform/Platform.h"
 
 namespace tessarine {
 
-Application::Application(Frame& f, MessageBoxes& m, SettingsStore& s, FileDialogs& d,
-                         std::string folder)
-    : frame(f),
-      messages(m),
-      store(s),
-      fileDialogs(d),
+Application::Application(const Platform& p, std::string folder)
+    : frame(p.frame),
+      messages(p.messages),
+      store(p.store),
+      fileDialogs(p.fileDialogs),
+      colorDialog(p.colorDialog),
+      shell(p.shell),
+      clipboard(p.clipboard),
+      images(p.images),
+      clock(p.clock),
       programFolder(std::move(folder)),
       defaultDocumentFolder(programFolder) {}
 

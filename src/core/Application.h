@@ -14,8 +14,14 @@ class Frame;
 class MessageBoxes;
 class SettingsStore;
 class FileDialogs;
+class ColorDialog;
+class Shell;
+class Clipboard;
+class ImageInfo;
+class Clock;
 class EditControl;
 class DocumentWindow;
+struct Platform;
 
 // The shared state of the text services.
 struct TextServiceState {
@@ -36,13 +42,17 @@ struct FileState {
 
 class Application {
  public:
-  Application(Frame& frame, MessageBoxes& messages, SettingsStore& store, FileDialogs& dialogs,
-              std::string programFolder);
+  Application(const Platform& platform, std::string programFolder);
 
   Frame& frame;
   MessageBoxes& messages;
   SettingsStore& store;
   FileDialogs& fileDialogs;
+  ColorDialog& colorDialog;
+  Shell& shell;
+  Clipboard& clipboard;
+  ImageInfo& images;
+  Clock& clock;
   const std::string programFolder;
   const std::string title = "Tessarine";
   // Where the folder settings point until the user chooses: the program's folder unless

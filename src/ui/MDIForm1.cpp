@@ -29,6 +29,7 @@
 #include "core/FileSave.h"
 #include "core/Startup.h"
 #include "core/TextServices.h"
+#include "platform/Desktop.h"
 #include "platform/EditControl.h"
 #include "platform/FileDialogs.h"
 #include "platform/SettingsStore.h"
@@ -367,12 +368,8 @@ void MDIForm1::BuildStatusBar() {
 
 bool MDIForm1::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::MouseButtonDblClick && watched->objectName() == "StatusBar1Clock") {
-    if (app_ && app_->ActiveEdit()) {
-      const std::time_t now = std::time(nullptr);
-      std::tm t{};
-      localtime_r(&now, &t);
-      app_->ActiveEdit()->ReplaceSel(ClockInsertText(t));
-    }
+    if (app_ && app_->ActiveEdit())
+      app_->ActiveEdit()->ReplaceSel(ClockInsertText(app_->clock.Now()));
     return true;
   }
   // A pass hides the control, so Esc may reach another widget: it still cancels.

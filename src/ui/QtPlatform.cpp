@@ -1,9 +1,18 @@
 #include "ui/QtPlatform.h"
 
+#include <QClipboard>
+#include <QColorDialog>
+#include <QDateTime>
+#include <QDesktopServices>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QImageReader>
 #include <QMessageBox>
+#include <QProcess>
 #include <QSettings>
 #include <QStringList>
+#include <QUrl>
 
 namespace tessarine {
 
@@ -134,6 +143,64 @@ FileDialogAnswer QtFileDialogs::Show(const FileDialogRequest& r) {
   a.path = S(dialog.selectedFiles().first());
   a.filterIndex = static_cast<int>(filters.indexOf(dialog.selectedNameFilter())) + 1;
   return a;
+}
+
+bool QtColorDialog::PickColor(std::int32_t initial, std::int32_t& chosen) {
+  // Colour numbers have red in the low byte.
+  const QColor start(initial & 0xFF, (initial >> 8) & 0xFF, (initial >> 16) & 0xFF);
+  const QColor c = QColorDialog::getColor(start, parent_);
+  if (!c.isValid()) return false;
+  chosen = c.red() | (c.green() << 8) | (c.blue() << 16);
+  return true;
+}
+
+bool QtShell::OpenInDefaultViewer(const std::string& path) {
+  return QDesktopServices::openUrl(QUrl::fromLocalFile(Q(path)));
+}
+
+bool QtShell::StartProgram(const std::string& program, const std::vector<std::string>& args) {
+  QStringList list;
+  for (const auto& a : args) list << Q(a);
+  return QProcess::startDetached(Q(program), list);
+}
+
+void QtShell::ShowProperties(const std::string& path) {
+  const QFileInfo info(Q(path));
+  QString text = "Path: " + info.absoluteFilePath() + "\n";
+  if (!info.exists()) {
+    text += "The file does not exist.";
+  } else {
+    text += "Size: " + QString::number(info.size()) + " bytes\n";
+    text += "Modified: " + info.lastModified().toString(Qt::ISODate) + "\n";
+    text += "Accessed: " + info.lastRead().toString(Qt::ISODate) + "\n";
+    const auto p = info.permissions();
+    QString mode;
+    const std::pair<QFile::Permission, char> bits[] = {
+        {QFile::ReadOwner, 'r'}, {QFile::WriteOwner, 'w'}, {QFile::ExeOwner, 'x'},
+        {QFile::ReadGroup, 'r'}, {QFile::WriteGroup, 'w'}, {QFile::ExeGroup, 'x'},
+        {QFile::ReadOther, 'r'}, {QFile::WriteOther, 'w'}, {QFile::ExeOther, 'x'}};
+    for (const auto& [bit, letter] : bits) mode += (p & bit) ? QChar(letter) : QChar('-');
+    text += "Permissions: " + mode + "  (" + info.owner() + ":" + info.group() + ")";
+  }
+  QMessageBox box(QMessageBox::Information, "Properties", text, QMessageBox::Ok, parent_);
+  box.exec();
+}
+
+std::string QtClipboard::Text() const {
+  return S(QGuiApplication::clipboard()->text());
+}
+
+void QtClipboard::SetText(const std::string& text) {
+  QGuiApplication::clipboard()->setText(Q(text));
+}
+
+bool QtImageInfo::Size(const std::string& path, int& width, int& height) {
+  QImageReader reader(Q(path));
+  const QSize size = reader.size();
+  if (!size.isValid()) return false;
+  width = size.width();
+  height = size.height();
+  return true;
 }
 
 }  // namespace tessarine

@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include "platform/Desktop.h"
 #include "platform/FileDialogs.h"
 #include "platform/MessageBoxes.h"
 #include "platform/SettingsStore.h"
@@ -47,6 +48,38 @@ class QtFileDialogs : public FileDialogs {
 
  private:
   QWidget* parent_ = nullptr;
+};
+
+class QtColorDialog : public ColorDialog {
+ public:
+  void SetParent(QWidget* parent) { parent_ = parent; }
+  bool PickColor(std::int32_t initial, std::int32_t& chosen) override;
+
+ private:
+  QWidget* parent_ = nullptr;
+};
+
+// Opening with xdg-open through Qt, programs detached, and a small properties dialog.
+class QtShell : public Shell {
+ public:
+  void SetParent(QWidget* parent) { parent_ = parent; }
+  bool OpenInDefaultViewer(const std::string& path) override;
+  bool StartProgram(const std::string& program, const std::vector<std::string>& args) override;
+  void ShowProperties(const std::string& path) override;
+
+ private:
+  QWidget* parent_ = nullptr;
+};
+
+class QtClipboard : public Clipboard {
+ public:
+  std::string Text() const override;
+  void SetText(const std::string& text) override;
+};
+
+class QtImageInfo : public ImageInfo {
+ public:
+  bool Size(const std::string& path, int& width, int& height) override;
 };
 
 }  // namespace tessarine

@@ -13,16 +13,18 @@
 #include "platform/FileDialogs.h"
 #include "platform/HeadlessFrame.h"
 #include "platform/MessageBoxes.h"
+#include "platform/Platform.h"
 #include "platform/SettingsStore.h"
 
 namespace tessarine::testing {
 
 struct TestApp {
-  HeadlessFrame frame;
-  ScriptedMessageBoxes messages;
-  MemorySettingsStore store;
-  ScriptedFileDialogs dialogs;
-  Application app{frame, messages, store, dialogs, "/opt/tessarine"};
+  HeadlessPlatform platform;
+  HeadlessFrame& frame = platform.frame;
+  ScriptedMessageBoxes& messages = platform.messages;
+  MemorySettingsStore& store = platform.store;
+  ScriptedFileDialogs& dialogs = platform.fileDialogs;
+  Application app{platform.Get(), "/opt/tessarine"};
 
   TestApp() { app.LoadSettings(); }
 
