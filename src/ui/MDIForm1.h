@@ -2,6 +2,7 @@
 // The main window: the document frame, its four toolbars, side panel, error list and
 // status bar. A thin assembly: the decisions live in the logic.
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QMap>
 
@@ -80,6 +81,7 @@ class MDIForm1 : public QMainWindow, public Frame {
   QList<QMenu*> documentMenus_;       // shown only with a document
   QLabel* panels_[7] = {};
   bool hourglass_ = false;
+  QElapsedTimer sinceEvents_;
   std::string shortcutBarGroup_;
 };
 

@@ -135,6 +135,9 @@ void SciEdit::SetText(std::string_view bytes) {
   ChangeBatch batch(*this);
   pendingInsertion_ = false;
   loading_ = true;
+  // Wrapping would lay out every line as it arrives; the view wraps what it shows later.
+  const long wrapMode = Send(SCI_GETWRAPMODE);
+  Send(SCI_SETWRAPMODE, SC_WRAP_NONE);
   Send(SCI_SETUNDOCOLLECTION, 0);
   Send(SCI_CLEARALL);
   // Decided per load: single-byte mode keeps any byte sequence one position per byte.
@@ -155,6 +158,7 @@ void SciEdit::SetText(std::string_view bytes) {
     Send(SCI_SETSTYLING, bytes.size(), baseStyle_);
   }
   Send(SCI_GOTOPOS, 0);
+  Send(SCI_SETWRAPMODE, wrapMode);
   loading_ = false;
   explicitSet_ = false;
   changePending_ = true;  // a load is a change even when both texts are empty
@@ -304,12 +308,30 @@ Style SciEdit::StyleAt(Pos pos) const {
   return static_cast<Style>(Send(SCI_GETSTYLEAT, static_cast<unsigned long>(pos)) & 0xFF);
 }
 
+void SciEdit::SetVisible(bool visible) {
+  // A hidden control has no lines to lay out: without this, the widget's idle wrapping of
+  // a large text runs in every yield of a pass.
+  if (!visible && !wrapSuspended_) {
+    suspendedWrap_ = Send(SCI_GETWRAPMODE);
+    Send(SCI_SETWRAPMODE, SC_WRAP_NONE);
+    wrapSuspended_ = true;
+  } else if (visible && wrapSuspended_) {
+    wrapSuspended_ = false;
+    Send(SCI_SETWRAPMODE, static_cast<unsigned long>(suspendedWrap_));
+  }
+  setVisible(visible);
+}
+
 void SciEdit::SetWordWrap(bool wrap) {
-  Send(SCI_SETWRAPMODE, wrap ? SC_WRAP_WORD : SC_WRAP_NONE);
+  const long mode = wrap ? SC_WRAP_WORD : SC_WRAP_NONE;
+  if (wrapSuspended_)
+    suspendedWrap_ = mode;
+  else
+    Send(SCI_SETWRAPMODE, static_cast<unsigned long>(mode));
 }
 
 bool SciEdit::WordWrap() const {
-  return Send(SCI_GETWRAPMODE) != SC_WRAP_NONE;
+  return (wrapSuspended_ ? suspendedWrap_ : Send(SCI_GETWRAPMODE)) != SC_WRAP_NONE;
 }
 
 void SciEdit::EmptyUndoBuffer() {

@@ -44,7 +44,7 @@ class SciEdit : public QsciScintilla, public EditControl {
   void FillStyle(Pos start, Pos count, Style style) override;
   Style StyleAt(Pos pos) const override;
 
-  void SetVisible(bool visible) override { setVisible(visible); }
+  void SetVisible(bool visible) override;
   bool IsVisible() const override { return !isHidden(); }
   void SetFocus() override { setFocus(); }
   void SetWordWrap(bool wrap) override;
@@ -75,6 +75,9 @@ class SciEdit : public QsciScintilla, public EditControl {
   void ForgetInsertionStyleIfMoved();
 
   Style baseStyle_ = 0;
+  // While hidden (a colouring pass) the widget's wrap mode waits here.
+  bool wrapSuspended_ = false;
+  long suspendedWrap_ = 0;
   bool explicitSet_ = false;
   Pos explicitPos_ = 0;  // the selection it was set on
   Pos explicitEnd_ = 0;

@@ -199,3 +199,33 @@ TEST(SciEdit, ChangesThroughTheWidgetItselfAreStyledAndReported) {
 
 }  // namespace
 }  // namespace tessarine
+
+namespace tessarine {
+namespace {
+
+TEST(SciEdit, AHiddenControlDoesNotWrapButKeepsItsWrapSetting) {
+  SciEdit edit;
+  auto mode = [&] { return edit.SendScintilla(QsciScintillaBase::SCI_GETWRAPMODE); };
+  edit.SetWordWrap(true);
+  EXPECT_EQ(mode(), QsciScintillaBase::SC_WRAP_WORD);
+  edit.SetVisible(false);
+  EXPECT_EQ(mode(), QsciScintillaBase::SC_WRAP_NONE);
+  EXPECT_TRUE(edit.WordWrap());
+  edit.SetVisible(false);  // hiding twice keeps the first saved mode
+  edit.SetVisible(true);
+  EXPECT_EQ(mode(), QsciScintillaBase::SC_WRAP_WORD);
+
+  edit.SetVisible(false);
+  edit.SetWordWrap(false);  // a change while hidden is what showing restores
+  EXPECT_FALSE(edit.WordWrap());
+  edit.SetVisible(true);
+  EXPECT_EQ(mode(), QsciScintillaBase::SC_WRAP_NONE);
+
+  // A load keeps the mode too.
+  edit.SetWordWrap(true);
+  edit.SetText("<P>a</P>\r\n<P>b</P>");
+  EXPECT_EQ(mode(), QsciScintillaBase::SC_WRAP_WORD);
+}
+
+}  // namespace
+}  // namespace tessarine
