@@ -11,7 +11,7 @@ set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 pages=${PAGES:-5000}
 runs=${RUNS:-3}
-gensite=${GENSITE:-/work/shared/tools/gensite.py}
+gensite=${GENSITE:-$here/../shared/tools/gensite.py}
 
 exe=${1:-}
 if [[ -z $exe ]]; then
