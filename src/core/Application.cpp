@@ -2,22 +2,11 @@
 
 #include "platform/DocumentWindow.h"
 #include "platform/Frame.h"
-#include "platform/Platform.h"
 
 namespace tessarine {
 
 Application::Application(const Platform& p, std::string folder)
-    : frame(p.frame),
-      messages(p.messages),
-      store(p.store),
-      fileDialogs(p.fileDialogs),
-      colorDialog(p.colorDialog),
-      shell(p.shell),
-      clipboard(p.clipboard),
-      images(p.images),
-      clock(p.clock),
-      programFolder(std::move(folder)),
-      defaultDocumentFolder(programFolder) {}
+    : Platform(p), programFolder(std::move(folder)), defaultDocumentFolder(programFolder) {}
 
 DocumentWindow* Application::ActiveDocument() {
   return frame.ActiveDocumentWindow();

@@ -6,22 +6,13 @@
 #include <string>
 
 #include "core/DocumentList.h"
+#include "platform/Platform.h"
 #include "settings/Settings.h"
 
 namespace tessarine {
 
-class Frame;
-class MessageBoxes;
-class SettingsStore;
-class FileDialogs;
-class ColorDialog;
-class Shell;
-class Clipboard;
-class ImageInfo;
-class Clock;
 class EditControl;
 class DocumentWindow;
-struct Platform;
 
 // The shared state of the text services.
 struct TextServiceState {
@@ -40,19 +31,11 @@ struct FileState {
   std::int16_t LastFilterIndex = 0;
 };
 
-class Application {
+// The desktop services are reached as members: app.frame, app.messages and so on.
+class Application : public Platform {
  public:
   Application(const Platform& platform, std::string programFolder);
 
-  Frame& frame;
-  MessageBoxes& messages;
-  SettingsStore& store;
-  FileDialogs& fileDialogs;
-  ColorDialog& colorDialog;
-  Shell& shell;
-  Clipboard& clipboard;
-  ImageInfo& images;
-  Clock& clock;
   const std::string programFolder;
   const std::string title = "Tessarine";
   // Where the folder settings point until the user chooses: the program's folder unless

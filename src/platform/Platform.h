@@ -1,14 +1,17 @@
 #pragma once
 // Everything the logic reaches the desktop through, handed to the application object.
 
-#include "platform/Desktop.h"
-#include "platform/FileDialogs.h"
-#include "platform/Frame.h"
-#include "platform/HeadlessFrame.h"
-#include "platform/MessageBoxes.h"
-#include "platform/SettingsStore.h"
-
 namespace tessarine {
+
+class Frame;
+class MessageBoxes;
+class SettingsStore;
+class FileDialogs;
+class ColorDialog;
+class Shell;
+class Clipboard;
+class ImageInfo;
+class Clock;
 
 struct Platform {
   Frame& frame;
@@ -20,23 +23,6 @@ struct Platform {
   Clipboard& clipboard;
   ImageInfo& images;
   Clock& clock;
-};
-
-// The whole platform without a display: for tests and the command line.
-struct HeadlessPlatform {
-  HeadlessFrame frame;
-  ScriptedMessageBoxes messages;
-  MemorySettingsStore store;
-  ScriptedFileDialogs fileDialogs;
-  ScriptedColorDialog colorDialog;
-  PosixShell shell;
-  MemoryClipboard clipboard;
-  HeaderImageInfo images;
-  FixedClock clock;
-
-  Platform Get() {
-    return {frame, messages, store, fileDialogs, colorDialog, shell, clipboard, images, clock};
-  }
 };
 
 }  // namespace tessarine

@@ -13,7 +13,7 @@
 #include "platform/FileDialogs.h"
 #include "platform/HeadlessFrame.h"
 #include "platform/MessageBoxes.h"
-#include "platform/Platform.h"
+#include "platform/HeadlessPlatform.h"
 #include "platform/SettingsStore.h"
 
 namespace tessarine::testing {

@@ -18,7 +18,7 @@
 #include "core/Styles.h"
 #include "platform/FileDialogs.h"
 #include "platform/MessageBoxes.h"
-#include "platform/Platform.h"
+#include "platform/HeadlessPlatform.h"
 #include "platform/SettingsStore.h"
 #include "ui/Form2.h"
 #include "ui/MDIForm1.h"

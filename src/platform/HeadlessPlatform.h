@@ -1,0 +1,29 @@
+#pragma once
+// The whole platform without a display: for tests and the command line.
+
+#include "platform/Desktop.h"
+#include "platform/FileDialogs.h"
+#include "platform/HeadlessFrame.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Platform.h"
+#include "platform/SettingsStore.h"
+
+namespace tessarine {
+
+struct HeadlessPlatform {
+  HeadlessFrame frame;
+  ScriptedMessageBoxes messages;
+  MemorySettingsStore store;
+  ScriptedFileDialogs fileDialogs;
+  ScriptedColorDialog colorDialog;
+  PosixShell shell;
+  MemoryClipboard clipboard;
+  HeaderImageInfo images;
+  FixedClock clock;
+
+  Platform Get() {
+    return {frame, messages, store, fileDialogs, colorDialog, shell, clipboard, images, clock};
+  }
+};
+
+}  // namespace tessarine
