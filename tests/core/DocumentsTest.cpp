@@ -213,21 +213,5 @@ TEST(CloseAll, ACancelInTheMiddleKeepsOnlyThatWindow) {
   EXPECT_EQ(t.frame.Windows().size(), 1u);
 }
 
-TEST(WindowMenu, ArrangeAndMoveActOnTheFrame) {
-  TestApp t;
-  auto& a = t.NewWindow();
-  auto& b = t.NewWindow();
-  mnuWindowArrange(t.app, 2);
-  EXPECT_EQ(t.frame.lastArrangement, WindowArrangement::TileVertical);
-  mnuWindowArrange(t.app, 7);  // no such entry
-  EXPECT_EQ(t.frame.lastArrangement, WindowArrangement::TileVertical);
-  const int focus = a.Buffer().FocusCount();
-  mnuWindowMove(t.app, 0);
-  EXPECT_EQ(t.frame.ActiveDocumentWindow(), &a);
-  EXPECT_GT(a.Buffer().FocusCount(), focus);
-  mnuWindowMove(t.app, 1);
-  EXPECT_EQ(t.frame.ActiveDocumentWindow(), &b);
-}
-
 }  // namespace
 }  // namespace tessarine
