@@ -368,21 +368,22 @@ bool IsEditingInput(QEvent::Type type) {
 
 }  // namespace
 
-bool SciEdit::event(QEvent* e) {
+template <typename Handler>
+bool SciEdit::DeliverEvent(QEvent* e, Handler base) {
   // Other events may delete the widget (DeferredDelete): touch nothing after them.
-  if (!IsEditingInput(e->type())) return QsciScintilla::event(e);
+  if (!IsEditingInput(e->type())) return base();
   ChangeBatch batch(*this);
-  const bool handled = QsciScintilla::event(e);
+  const bool handled = base();
   ForgetInsertionStyleIfMoved();
   return handled;
 }
 
+bool SciEdit::event(QEvent* e) {
+  return DeliverEvent(e, [&] { return QsciScintilla::event(e); });
+}
+
 bool SciEdit::viewportEvent(QEvent* e) {
-  if (!IsEditingInput(e->type())) return QsciScintilla::viewportEvent(e);
-  ChangeBatch batch(*this);
-  const bool handled = QsciScintilla::viewportEvent(e);
-  ForgetInsertionStyleIfMoved();
-  return handled;
+  return DeliverEvent(e, [&] { return QsciScintilla::viewportEvent(e); });
 }
 
 }  // namespace tessarine

@@ -61,6 +61,8 @@ class SciEdit : public QsciScintilla, public EditControl {
   bool viewportEvent(QEvent* e) override;
 
  private:
+  template <typename Handler>
+  bool DeliverEvent(QEvent* e, Handler base);
   class ChangeBatch;
 
   long Send(unsigned int msg, unsigned long wParam = 0, long lParam = 0) const {

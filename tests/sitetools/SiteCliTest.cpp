@@ -9,6 +9,7 @@
 namespace tessarine {
 namespace {
 
+using sitetest::CompletionMessage;
 using sitetest::CrLfLines;
 using sitetest::ReadAll;
 using sitetest::TempSite;
@@ -48,14 +49,7 @@ TEST(SiteCli, AnalysePrintsRowsThenTheLabelsAndWritesTheReports) {
                          "Missing Title\tWeb page is missing title\t" + root + "a.html\n" +
                          "#nowhere\tBroken Anchor\t" + root + "a.html\n" +
                          " 4 Errors in Site\tNumber of page in site:  2\n");
-  EXPECT_EQ(run.err,
-            "Web site analysis is complete.  Refer to the following files\n"
-            " in the Web site's main folder (" +
-                root +
-                ")\n"
-                "for more information:\n\n"
-                "-   BrokenLinks.txt\n"
-                "-   LinkReport.txt\n");
+  EXPECT_EQ(run.err, CompletionMessage(root) + "\n");
   EXPECT_EQ(ReadAll(root + "BrokenLinks.txt"),
             CrLfLines({root + "index.html", "          gone.html", "          none.gif", "", "",
                        root + "a.html", "          #nowhere"}));

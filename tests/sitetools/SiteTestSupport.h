@@ -61,6 +61,17 @@ inline std::string ReadAll(const std::string& path) {
 }
 
 // Lines as the report files write them: each one closed by CR LF.
+// The message a finished crawl shows, without the command line's final line end.
+inline std::string CompletionMessage(const std::string& root) {
+  return "Web site analysis is complete.  Refer to the following files\n"
+         " in the Web site's main folder (" +
+         root +
+         ")\n"
+         "for more information:\n\n"
+         "-   BrokenLinks.txt\n"
+         "-   LinkReport.txt";
+}
+
 inline std::string CrLfLines(std::initializer_list<std::string> lines) {
   std::string out;
   for (const std::string& line : lines) out += line + "\r\n";
