@@ -34,6 +34,7 @@
 #include "platform/EditControl.h"
 #include "platform/FileDialogs.h"
 #include "platform/SettingsStore.h"
+#include "ui/Commands.h"
 #include "ui/Form2.h"
 #include "ui/SciEdit.h"
 
@@ -48,65 +49,49 @@ QString Q(const std::string& s) {
 struct ButtonDef {
   const char* key;
   const char* tooltip;
-  bool works;  // false: its command arrives with a later part of the editor
 };
 
 const ButtonDef kFileButtons[] = {
-    {"New", "New Document", true},      {"Open", "Open (Ctrl-O)", true},
-    {"Save", "Save (Ctrl-S)", true},    {"Print", "Print", false},
-    {"Cut", "Cut (Ctrl-X)", false},     {"Copy", "Copy (Ctrl-C)", false},
-    {"Paste", "Paste (Ctrl-V)", false}, {"Find", "Find/Search (Ctrl-F)", false},
+    {"New", "New Document"},      {"Open", "Open (Ctrl-O)"},
+    {"Save", "Save (Ctrl-S)"},    {"Print", "Print"},
+    {"Cut", "Cut (Ctrl-X)"},     {"Copy", "Copy (Ctrl-C)"},
+    {"Paste", "Paste (Ctrl-V)"}, {"Find", "Find/Search (Ctrl-F)"},
 };
 const ButtonDef kFormatButtons[] = {
-    {"Bold", "Bold (Ctrl-B)", true},
-    {"Italic", "Italic (Ctrl-I)", true},
-    {"Underline", "Underline (Ctrl-U)", true},
-    {"Format", "Set Font size, color, etc.", false},
-    {"Align Left", "Align Left", false},
-    {"Align Center", "Align Center", false},
-    {"Align Right", "Align Right", false},
-    {"Justify", "Justify", false},
-    {"Indent", "Indent", false},
-    {"BR", "Insert Line Break (Ctrl-K)", false},
-    {"HR", "Insert Horizontal Line (Ctrl-H)", false},
-    {"Comment", "Insert Comment", false},
+    {"Bold", "Bold (Ctrl-B)"},
+    {"Italic", "Italic (Ctrl-I)"},
+    {"Underline", "Underline (Ctrl-U)"},
+    {"Format", "Set Font size, color, etc."},
+    {"Align Left", "Align Left"},
+    {"Align Center", "Align Center"},
+    {"Align Right", "Align Right"},
+    {"Justify", "Justify"},
+    {"Indent", "Indent"},
+    {"BR", "Insert Line Break (Ctrl-K)"},
+    {"HR", "Insert Horizontal Line (Ctrl-H)"},
+    {"Comment", "Insert Comment"},
 };
 const ButtonDef kInsertButtons[] = {
-    {"Page Properties", "Page Properties (colors, background, etc.)", false},
-    {"Hyperlink", "Insert Hyperlink", false},
-    {"Image", "Insert Image/Image Browser", false},
-    {"Anchor", "Insert Anchor/Bookmark target", false},
-    {"Special Characters", "Insert Special Characters", false},
-    {"Table Wizard", "Table Wizard", false},
-    {"Frames", "Frame Wizard", false},
-    {"Form Wizard", "Form Wizard", false},
-    {"Bulleted List", "Create Bulleted List", false},
-    {"Numbered List", "Create Numbered List", false},
+    {"Page Properties", "Page Properties (colors, background, etc.)"},
+    {"Hyperlink", "Insert Hyperlink"},
+    {"Image", "Insert Image/Image Browser"},
+    {"Anchor", "Insert Anchor/Bookmark target"},
+    {"Special Characters", "Insert Special Characters"},
+    {"Table Wizard", "Table Wizard"},
+    {"Frames", "Frame Wizard"},
+    {"Form Wizard", "Form Wizard"},
+    {"Bulleted List", "Create Bulleted List"},
+    {"Numbered List", "Create Numbered List"},
 };
 const ButtonDef kToolsButtons[] = {
-    {"Browser1", "Browser1", false},
-    {"Browser2", "Browser2", false},
-    {"Color Tags", "Refresh HTML tag colors (F2)", true},
-    {"Color Picker", "Color Picker", false},
-    {"Spellcheck", "Spellcheck", false},
-    {"Check Links", "Check Links", false},
-    {"Validate", "Validate", false},
-    {"FTP", "FTP", false},
-};
-
-struct PhysicalStyle {
-  const char* caption;
-  const char* start;
-  const char* end;
-};
-const PhysicalStyle kPhysicalStyles[] = {
-    {"&Bold - <B>", "<B>", "</B>"},
-    {"&Italic - <I>", "<I>", "</I>"},
-    {"Stri&kethrough - <S>", "<S>", "</S>"},
-    {"&Subscript - <SUB>", "<SUB>", "</SUB>"},
-    {"Su&perscript - <SUP>", "<SUP>", "</SUP>"},
-    {"&Typewriter Text - <TT>", "<TT>", "</TT>"},
-    {"&Underline - <U>", "<U>", "</U>"},
+    {"Browser1", "Browser1"},
+    {"Browser2", "Browser2"},
+    {"Color Tags", "Refresh HTML tag colors (F2)"},
+    {"Color Picker", "Color Picker"},
+    {"Spellcheck", "Spellcheck"},
+    {"Check Links", "Check Links"},
+    {"Validate", "Validate"},
+    {"FTP", "FTP"},
 };
 
 const char* const kAspHelp =
@@ -208,8 +193,8 @@ void MDIForm1::BuildToolbars() {
       QAction* a = bar->addAction(d.key);
       a->setObjectName(QString(name) + "/" + d.key);
       a->setToolTip(d.tooltip);
-      a->setData(d.works);
-      a->setEnabled(d.works);
+      a->setData(false);  // no command yet: BindButton gives it one
+      a->setEnabled(false);
       buttons_[a->objectName()] = a;
       const bool anyDocument =
           QString(name) == "tbrFile" && (QString(d.key) == "New" || QString(d.key) == "Open");
@@ -231,94 +216,91 @@ void MDIForm1::BuildToolbars() {
 }
 
 void MDIForm1::BuildMenus() {
-  auto command = [this](QMenu* menu, const QString& name, const QString& caption, bool needsDoc,
-                        auto slot) {
-    QAction* a = menu->addAction(caption);
-    a->setObjectName(name);
-    commands_[name] = a;
-    if (needsDoc) needDocument_ << a;
-    connect(a, &QAction::triggered, this, slot);
-    return a;
-  };
-  QMenu* file = menuBar()->addMenu("&File");
-  command(file, "mnuNewFile", "&New", false, [this] { FileNew(); })->setShortcut(QKeySequence::New);
-  command(file, "FileOpen", "&Open...", false, [this] {
-    FileOpen();
-  })->setShortcut(QKeySequence::Open);
-  QMenu* projects = file->addMenu("&Projects");
-  projects->setObjectName("mnuProjects");
-  projects->setEnabled(false);
-  QMenu* import = file->addMenu("&Import");
-  import->setObjectName("mnuImport");
-  command(import, "mnuOpenMac", "&Mac File...", false, [] {})->setEnabled(false);
-  command(import, "mnuOpenUNIX", "&UNIX File...", false, [] {})->setEnabled(false);
-  command(file, "FileClose", "&Close", true, [this] {
-    if (app_) CloseActiveDocument(*app_);
-  });
-  command(file, "FileSave", "&Save", true, [this] {
-    FileSave(false);
-  })->setShortcut(QKeySequence::Save);
-  command(file, "FileSaveAs", "Save &As...", true, [this] { FileSave(true); });
-  file->addSeparator();
-  command(file, "mnuFileExit", "E&xit", false, [this] { close(); });
-
-  QMenu* edit = menuBar()->addMenu("&Edit");
-  command(edit, "mnuGlobalReplace", "&Global Find and Replace...", false, [] {})->setEnabled(false);
-
-  QMenu* format = menuBar()->addMenu("F&ormat");
-  documentMenus_ << format;
-  QMenu* physical = format->addMenu("&Physical Styles");
-  for (int i = 0; i < 7; ++i) {
-    const PhysicalStyle& s = kPhysicalStyles[i];
-    command(physical, QString("mnuPhysicalStyles%1").arg(i), s.caption, true, [this, s] {
-      if (app_) WrapSelection(*app_, s.start, s.end, false);
-    });
+  const std::pair<const char*, const char*> bar[] = {
+      {"mnuFile", "&File"},     {"mnuEdit", "&Edit"},   {"mnuInsert", "&Insert"},
+      {"mnuFormat", "F&ormat"}, {"mnuView", "&View"},   {"mnuTools", "&Tools"},
+      {"mnuWindow", "&Window"}, {"mnuHelp", "&Help"}};
+  for (const auto& [name, caption] : bar) {
+    QMenu* m = menuBar()->addMenu(caption);
+    m->setObjectName(name);
+    menus_[name] = m;
   }
+  for (const char* name : {"mnuInsert", "mnuFormat", "mnuTools", "mnuWindow"})
+    documentMenus_ << menus_[name];
 
-  QMenu* view = menuBar()->addMenu("&View");
+  QMenu* view = menus_["mnuView"];
   QMenu* bars = view->addMenu("&Toolbars");
   const std::pair<const char*, const char*> toggles[] = {
       {"tbrFile", "File"}, {"tbrFormat", "Format"}, {"tbrInsert", "Insert"}, {"tbrTools", "Tools"}};
   for (const auto& [bar, key] : toggles) {
     QToolBar* tb = toolbars_[bar];
     const QString name = QString("mnuViewToolbar") + key;
-    QAction* a = command(bars, name, key, false, [this, tb, key = key] { ToggleToolbar(tb, key); });
+    QAction* a = AddCommand(bars, name, key, false, [this, tb, key = key] { ToggleToolbar(tb, key); });
     a->setCheckable(true);
     a->setChecked(true);
   }
-  QAction* fileList = command(view, "mnuViewFileList", "File &List", false, [this] {
+  QAction* fileList = AddCommand(view, "mnuViewFileList", "File &List", false, [this] {
     tabStrip1_->setVisible(!tabStrip1_->isVisible());
     commands_["mnuViewFileList"]->setChecked(tabStrip1_->isVisible());
   });
   fileList->setCheckable(true);
-  command(view, "mnuPreferences", "&Preferences...", false, [] {})->setEnabled(false);
+  AddCommand(view, "mnuPreferences", "&Preferences...", false, [] {})->setEnabled(false);
 
-  QMenu* tools = menuBar()->addMenu("&Tools");
-  documentMenus_ << tools;
-  command(tools, "mnuColorize", "&Refresh Tag Colors", true, [this] {
+  AddCommand(menus_["mnuTools"], "mnuColorize", "&Refresh Tag Colors", true, [this] {
     if (app_) mnuColorize(*app_, false);
   })->setShortcut(Qt::Key_F2);
+  BindButton("tbrTools", "Color Tags", [this] { mnuColorize(*app_, true); });
 
-  QMenu* window = menuBar()->addMenu("&Window");
-  documentMenus_ << window;
+  QMenu* window = menus_["mnuWindow"];
   const char* arrange[] = {"&Cascade", "Tile &Horizontally", "Tile &Vertically", "&Arrange Icons"};
   for (int i = 0; i < 4; ++i)
-    command(window, QString("mnuWindowArrange%1").arg(i), arrange[i], true, [this, i] {
+    AddCommand(window, QString("mnuWindowArrange%1").arg(i), arrange[i], true, [this, i] {
       if (app_) mnuWindowArrange(*app_, i);
     });
   window->addSeparator();
-  command(window, "mnuWindowMove0", "Move to &Previous document    Ctrl+Tab", true, [this] {
+  AddCommand(window, "mnuWindowMove0", "Move to &Previous document    Ctrl+Tab", true, [this] {
     if (app_) mnuWindowMove(*app_, 0);
   });
-  command(window, "mnuWindowMove1", "Move to &Next document          Shift+Ctrl+Tab", true, [this] {
+  AddCommand(window, "mnuWindowMove1", "Move to &Next document          Shift+Ctrl+Tab", true, [this] {
     if (app_) mnuWindowMove(*app_, 1);
   });
   window->addSeparator();
-  command(window, "mnuCloseAll", "Cl&ose All", true, [this] {
+  AddCommand(window, "mnuCloseAll", "Cl&ose All", true, [this] {
     if (app_) CloseAllDocuments(*app_);
   });
 
-  menuBar()->addMenu("&Help")->addAction("&About Tessarine");
+  menus_["mnuHelp"]->addAction("&About Tessarine");
+
+  BuildFileCommands(*this);
+  BuildEditCommands(*this);
+  BuildTagCommands(*this);
+  BuildProgramCommands(*this);
+}
+
+QMenu* MDIForm1::Menu(const QString& name) const {
+  return menus_.value(name);
+}
+
+QAction* MDIForm1::AddCommand(QMenu* menu, const QString& name, const QString& caption,
+                              bool needsDocument, std::function<void()> slot) {
+  QAction* a = menu->addAction(caption);
+  a->setObjectName(name);
+  commands_[name] = a;
+  if (needsDocument) needDocument_ << a;
+  connect(a, &QAction::triggered, this, [slot = std::move(slot)] { slot(); });
+  return a;
+}
+
+void MDIForm1::BindButton(const QString& toolbar, const QString& key, std::function<void()> slot) {
+  QAction* a = buttons_.value(toolbar + "/" + key);
+  if (!a) return;
+  a->setData(true);
+  a->setEnabled(!needDocument_.contains(a) || ActiveDocumentWindow());
+  buttonCommands_[a->objectName()] = std::move(slot);
+}
+
+void MDIForm1::SetStatusPanel(int index, const QString& text) {
+  if (index >= 1 && index <= 6 && panels_[index]) panels_[index]->setText(text);
 }
 
 void MDIForm1::BuildStatusBar() {
@@ -419,6 +401,7 @@ void MDIForm1::Load(Application& app, const std::string& commandLine) {
   }
   cboFind_->setEditText("");
   QDir::setCurrent(Q(app.settings.WorkingDirectory));
+  for (const auto& f : onSettingsLoaded_) f();
 
   setWindowTitle("Tessarine 2002");
   OpenStartupDocuments(app, commandLine);
@@ -440,6 +423,7 @@ DocumentWindow* MDIForm1::CreateDocumentWindow() {
           [this](int line, int) { panels_[4]->setText(QString("Line: %1").arg(line + 1)); });
   sub->show();
   UpdateMenusForDocumentCount();
+  for (const auto& f : onNewWindow_) f(*form);
   return form;
 }
 
@@ -529,59 +513,13 @@ QToolBar* MDIForm1::Toolbar(const QString& name) const {
 void MDIForm1::UpdateMenusForDocumentCount() {
   const bool any = !mdiArea_->subWindowList().isEmpty();
   for (QMenu* m : documentMenus_) m->menuAction()->setVisible(any);
-  for (const char* name : {"FileClose", "FileSave", "FileSaveAs"}) commands_[name]->setVisible(any);
+  for (QAction* a : documentOnly_) a->setVisible(any);
 }
 
 void MDIForm1::OnToolbarButton(const QString& toolbar, const QString& key) {
   if (!app_) return;
-  if (toolbar == "tbrFile") {
-    if (key == "New")
-      FileNew();
-    else if (key == "Open")
-      FileOpen();
-    else if (key == "Save")
-      FileSave(false);
-  } else if (toolbar == "tbrFormat") {
-    if (key.compare("Bold", Qt::CaseInsensitive) == 0)
-      WrapSelection(*app_, "<B>", "</B>", false);
-    else if (key.compare("Italic", Qt::CaseInsensitive) == 0)
-      WrapSelection(*app_, "<I>", "</I>", false);
-    else if (key.compare("Underline", Qt::CaseInsensitive) == 0)
-      WrapSelection(*app_, "<U>", "</U>", false);
-    if (EditControl* e = app_->ActiveEdit()) e->SetFocus();
-  } else if (toolbar == "tbrTools") {
-    if (key.compare("Color Tags", Qt::CaseInsensitive) == 0) mnuColorize(*app_, true);
-  }
-}
-
-void MDIForm1::FileNew() {
-  if (!app_) return;
-  NewDocumentWindow(*app_);
-  UpdateMenusForDocumentCount();
-}
-
-void MDIForm1::FileOpen() {
-  if (!app_) return;
-  FileDialogRequest r;
-  r.title = "Open";
-  r.filter = kOpenSaveFilter;
-  r.filterIndex = app_->files.LastFilterIndex ? app_->files.LastFilterIndex : 2;
-  r.initialFolder = app_->settings.WorkingDirectory;
-  const FileDialogAnswer a = app_->fileDialogs.Show(r);
-  if (a.path.empty()) return;
-  app_->files.LastFilterIndex = static_cast<std::int16_t>(a.filterIndex);
-  OpenFile(*app_, a.path);
-  UpdateMenusForDocumentCount();
-}
-
-void MDIForm1::FileSave(bool saveAs) {
-  DocumentWindow* w = app_ ? app_->ActiveDocument() : nullptr;
-  if (!w) return;
-  const std::string name =
-      saveAs || CaptionIsUntitledForPrompt(w->Caption()) ? SaveAsDialog(*app_) : w->Caption();
-  if (name.empty()) return;
-  tessarine::SaveFile(*app_, *w, name, SaveMode::Command);
-  SetSaveButtonEnabled(false);
+  const auto it = buttonCommands_.constFind(toolbar + "/" + key);
+  if (it != buttonCommands_.constEnd()) (*it)();
 }
 
 void MDIForm1::ToggleToolbar(QToolBar* bar, const char* key) {

@@ -5,6 +5,8 @@
 #include <QElapsedTimer>
 #include <QMainWindow>
 #include <QMap>
+#include <functional>
+#include <vector>
 
 #include "platform/Frame.h"
 
@@ -45,11 +47,35 @@ class MDIForm1 : public QMainWindow, public Frame {
   void SetSaveButtonEnabled(bool enabled) override;
   void ProcessEvents() override;
 
-  // For tests: a toolbar button or menu command by its key or object name.
+  // A toolbar button or menu command by its key or object name.
   QAction* Button(const QString& toolbar, const QString& key) const;
   QAction* Command(const QString& name) const;
   QToolBar* Toolbar(const QString& name) const;
   QMdiArea* MdiArea() const { return mdiArea_; }
+
+  // For the subsystems' builders (ui/Commands.h): each fills its own menus and buttons.
+  Application* App() const { return app_; }
+  // "mnuFile", "mnuEdit", "mnuInsert", "mnuFormat", "mnuView", "mnuTools", "mnuWindow",
+  // "mnuHelp".
+  QMenu* Menu(const QString& name) const;
+  QAction* AddCommand(QMenu* menu, const QString& name, const QString& caption,
+                      bool needsDocument, std::function<void()> slot);
+  // Gives a toolbar button its command and enables it (while a document is open, unless
+  // it is New or Open).
+  void BindButton(const QString& toolbar, const QString& key, std::function<void()> slot);
+  // Menus or entries shown only while a document is open.
+  void AddDocumentMenu(QMenu* menu) { documentMenus_ << menu; }
+  void AddDocumentOnlyCommand(QAction* a) { documentOnly_ << a; }
+  QComboBox* FindCombo() const { return cboFind_; }
+  QTabWidget* SidePanel() const { return tabStrip1_; }
+  void SetStatusPanel(int index, const QString& text);
+  // Run after the settings are loaded at start, before the first document opens.
+  void OnSettingsLoaded(std::function<void()> f) { onSettingsLoaded_.push_back(std::move(f)); }
+  // Run for each new document window, after it is made and shown.
+  void OnNewDocumentWindow(std::function<void(Form2&)> f) {
+    onNewWindow_.push_back(std::move(f));
+  }
+  void UpdateMenusForDocumentCount();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -60,11 +86,7 @@ class MDIForm1 : public QMainWindow, public Frame {
   void BuildMenus();
   void BuildStatusBar();
   void BuildPanels();
-  void UpdateMenusForDocumentCount();
   void OnToolbarButton(const QString& toolbar, const QString& key);
-  void FileNew();
-  void FileOpen();
-  void FileSave(bool saveAs);
   void ToggleToolbar(QToolBar* bar, const char* key);
 
   Application* app_ = nullptr;
@@ -79,6 +101,11 @@ class MDIForm1 : public QMainWindow, public Frame {
   QMap<QString, QAction*> commands_;  // menu entries by control name
   QList<QAction*> needDocument_;      // dimmed while no document is open
   QList<QMenu*> documentMenus_;       // shown only with a document
+  QList<QAction*> documentOnly_;      // entries shown only with a document
+  QMap<QString, QMenu*> menus_;
+  QMap<QString, std::function<void()>> buttonCommands_;
+  std::vector<std::function<void()>> onSettingsLoaded_;
+  std::vector<std::function<void(Form2&)>> onNewWindow_;
   QLabel* panels_[7] = {};
   bool hourglass_ = false;
   QElapsedTimer sinceEvents_;
