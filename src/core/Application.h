@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/DocumentList.h"
+#include "core/FileState.h"
 #include "platform/Platform.h"
 #include "settings/Settings.h"
 
@@ -24,11 +25,6 @@ struct TextServiceState {
 struct ColorizeState {
   std::int16_t ColorizingInProgress = 0;
   bool CancelColorizing = false;
-};
-
-struct FileState {
-  std::string SaveDirectory;
-  std::int16_t LastFilterIndex = 0;
 };
 
 // The desktop services are reached as members: app.frame, app.messages and so on.

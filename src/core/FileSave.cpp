@@ -11,6 +11,7 @@
 
 #include "core/Application.h"
 #include "core/Documents.h"
+#include "core/RecentFiles.h"
 #include "platform/DocumentWindow.h"
 #include "platform/EditControl.h"
 #include "platform/FileDialogs.h"
@@ -150,7 +151,19 @@ void SaveFile(Application& app, DocumentWindow& window, const std::string& path,
   window.SetCaption(path);
   const int slot = app.documents.SlotOf(&window);
   if (slot != 0) app.documents.State(slot).Changed = false;
+  UpdateRecentFiles(app, path);
+  if (app.files.refreshFileList) app.files.refreshFileList();
   if (mode == SaveMode::Prompt) edit.SetFocus();
+}
+
+void FileSaveCommand(Application& app, bool saveAs) {
+  DocumentWindow* w = app.ActiveDocument();
+  if (!w) return;
+  const std::string name =
+      saveAs || CaptionIsUntitledForPrompt(w->Caption()) ? SaveAsDialog(app) : w->Caption();
+  if (name.empty()) return;
+  SaveFile(app, *w, name, SaveMode::Command);
+  app.frame.SetSaveButtonEnabled(false);
 }
 
 }  // namespace tessarine

@@ -39,6 +39,8 @@ class MainWindowTest : public ::testing::Test {
   void SetUp() override {
     ASSERT_TRUE(dir.isValid());
     qputenv("XDG_DATA_HOME", (dir.path() + "/data").toUtf8());
+    // These tests type into an empty first document.
+    store.SaveSetting("Miscellaneous", "BlankNewDoc", "1");
   }
   void Start(const std::string& commandLine = "") {
     frame = std::make_unique<MDIForm1>();
