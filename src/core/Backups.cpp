@@ -28,7 +28,7 @@ void BackupChangedDocuments(Application& app) {
     const DocumentSlot& s = app.documents.Form(i);
     if (app.documents.State(i).Deleted || !s.form || !app.documents.State(i).Changed) continue;
     // A copy that cannot be written is skipped; the next tick tries again.
-    (void)WriteFileReplacing(BackupName(s.form->Caption()), s.form->Edit().Text(), "\r\n");
+    (void)WriteFileReplacing(BackupName(s.form->Caption()), s.form->Edit().View(), "\r\n");
   }
 }
 

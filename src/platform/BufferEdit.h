@@ -13,6 +13,7 @@ class BufferEdit : public EditControl {
  public:
   Pos Length() const override { return static_cast<Pos>(text_.size()); }
   std::string Text() const override { return text_; }
+  std::string_view View() const override { return text_; }
   std::string TextRange(Pos start, Pos length) const override;
   void SetText(std::string_view bytes) override;
 
