@@ -85,6 +85,11 @@ void ConnectApplication(MDIForm1& frame, QTimer* timerAutoSave) {
   MDIForm1* f = &frame;
   app->files.onRecentMenuChanged = [f] { ShowRecentFileEntries(*f); };
   app->files.showXmlDocDialog = [f](XmlDocInputs& in) { return frmXMLdoc::Ask(f, in); };
+  // "Apply Style..." and "Insert Inline Style..." have no use in a style sheet.
+  app->files.enableStyleInserts = [f](bool enabled) {
+    for (const char* name : {"mnuCSSsub1", "mnuCSSsub2"})
+      if (QAction* a = f->Command(name)) a->setEnabled(enabled);
+  };
   app->files.autoSaveTicks = 0;
   timerAutoSave->start();
 }
