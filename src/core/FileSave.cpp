@@ -111,7 +111,7 @@ int WriteFileReplacing(const std::string& path, std::string_view first, std::str
   if (exists && ::access(target.c_str(), W_OK) != 0) return ErrnoToNumber(errno);
 
   const auto slash = target.find_last_of('/');
-  const std::string dir = slash == std::string::npos ? "." : target.substr(0, slash + 1);
+  const std::string dir = slash == std::string::npos ? "./" : target.substr(0, slash + 1);
   std::string temp = dir + ".tsrn-save-XXXXXX";
   const int fd = ::mkstemp(temp.data());
   if (fd < 0) return ErrnoToNumber(errno);

@@ -115,7 +115,15 @@ TEST(Backups, EveryNthMinuteChangedDocumentsAreCopiedBesideThem) {
   EXPECT_EQ(page.Caption(), dir / "page.html");
   EXPECT_EQ(t.app.files.autoSaveTicks, 0);
 
-  EXPECT_EQ(BackupName("Untitled:1"), "Backup of Untitled:1");
+  // An untitled window's copy goes to the current folder.
+  auto& untitled = t.NewWindow("draft");
+  untitled.Buffer().Type("1 ");
+  const auto cwd = std::filesystem::current_path();
+  std::filesystem::current_path(dir.path());
+  BackupChangedDocuments(t.app);
+  std::filesystem::current_path(cwd);
+  EXPECT_EQ(ReadAll(dir / ("Backup of " + untitled.Caption())), "1 draft\r\n");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.path()), {}), 4);
   EXPECT_EQ(BackupName("/a/b/c.htm"), "/a/b/Backup of c.htm");
 
   // Off: the count goes on, nothing is written.
