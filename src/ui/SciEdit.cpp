@@ -121,6 +121,10 @@ std::string SciEdit::Text() const {
 }
 
 std::string SciEdit::TextRange(Pos start, Pos length) const {
+  return std::string(RangeView(start, length));
+}
+
+std::string_view SciEdit::RangeView(Pos start, Pos length) const {
   const Pos total = Length();
   start = std::clamp<Pos>(start, 0, total);
   length = std::clamp<Pos>(length, 0, total - start);
@@ -128,7 +132,11 @@ std::string SciEdit::TextRange(Pos start, Pos length) const {
   // The range pointer only moves the gap when the range straddles it.
   const auto* p = reinterpret_cast<const char*>(
       SendScintilla(SCI_GETRANGEPOINTER, static_cast<unsigned long>(start), length));
-  return std::string(p, static_cast<size_t>(length));
+  return std::string_view(p, static_cast<size_t>(length));
+}
+
+Pos SciEdit::LineFromPosition(Pos pos) const {
+  return Send(SCI_LINEFROMPOSITION, static_cast<unsigned long>(std::clamp<Pos>(pos, 0, Length())));
 }
 
 void SciEdit::SetText(std::string_view bytes) {

@@ -26,6 +26,8 @@ class SciEdit : public QsciScintilla, public EditControl {
   Pos Length() const override;
   std::string Text() const override;
   std::string TextRange(Pos start, Pos length) const override;
+  std::string_view RangeView(Pos start, Pos length) const override;
+  Pos LineFromPosition(Pos pos) const override;
   void SetText(std::string_view bytes) override;
 
   Pos SelStart() const override;
