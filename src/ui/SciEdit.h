@@ -77,6 +77,8 @@ class SciEdit : public QsciScintilla, public EditControl {
   Style InsertionStyleAt(Pos pos) const;
   void ReplaceTarget(Pos start, Pos length, std::string_view bytes);
   void ForgetInsertionStyleIfMoved();
+  void ScrollCaretLater();
+  void PauseWrapInBursts();
 
   Style baseStyle_ = 0;
   // While hidden (a colouring pass) the widget's wrap mode waits here.
@@ -90,6 +92,9 @@ class SciEdit : public QsciScintilla, public EditControl {
   int batchDepth_ = 0;
   bool changePending_ = false;
   bool finishQueued_ = false;
+  bool scrollQueued_ = false;
+  int burstEdits_ = 0;
+  bool burstPaused_ = false;
   mutable bool pendingInsertion_ = false;
   Pos pendingPos_ = 0;
   Pos pendingLength_ = 0;

@@ -12,6 +12,7 @@
 
 #include "EditFixture.h"
 #include "core/Styles.h"
+#include "platform/BufferEdit.h"
 #include "platform/Desktop.h"
 
 namespace tessarine {
@@ -124,6 +125,32 @@ TEST_F(EditWidget, DroppedStyleSheetBecomesALink) {
   QApplication::sendEvent(e.viewport(), &drop);
   EXPECT_TRUE(drop.isAccepted());
   EXPECT_EQ(e.Text(), "x<link rel=\"StyleSheet\" href=\"css/site.css\">");
+}
+
+TEST(SciEditLines, AgreesWithTheHeadlessControlOnLinesAndRanges) {
+  const std::string text = "a\r\nb\nc\rd\r\r\n\n\xE9\r\nend";
+  SciEdit sci;
+  BufferEdit buffer;
+  sci.SetText(text);
+  buffer.SetText(text);
+  for (Pos p = -1; p <= static_cast<Pos>(text.size()) + 1; ++p) {
+    EXPECT_EQ(sci.LineFromPosition(p), buffer.LineFromPosition(p)) << p;
+    EXPECT_EQ(sci.RangeView(p, 3), buffer.RangeView(p, 3)) << p;
+  }
+}
+
+TEST_F(EditWidget, ABurstOfEditsWrapsOnceItIsOver) {
+  SciEdit& e = Document(std::string(200, 'x'));
+  e.SetWordWrap(true);
+  for (int i = 0; i < 100; ++i) e.ReplaceRange(i, 1, "y");
+  EXPECT_TRUE(e.WordWrap());
+  EXPECT_EQ(e.SendScintilla(QsciScintillaBase::SCI_GETWRAPMODE), QsciScintillaBase::SC_WRAP_NONE);
+  QApplication::processEvents();
+  EXPECT_EQ(e.SendScintilla(QsciScintillaBase::SCI_GETWRAPMODE), QsciScintillaBase::SC_WRAP_WORD);
+  // A few edits keep wrapping all along.
+  e.ReplaceRange(0, 1, "z");
+  EXPECT_EQ(e.SendScintilla(QsciScintillaBase::SCI_GETWRAPMODE), QsciScintillaBase::SC_WRAP_WORD);
+  EXPECT_EQ(e.TextRange(0, 3), "zyy");
 }
 
 }  // namespace
