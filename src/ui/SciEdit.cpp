@@ -231,7 +231,7 @@ void SciEdit::PauseWrapInBursts() {
   // A wrapping widget lays out every changed line at once. A burst of edits made before
   // the event loop runs again (Replace All) wraps once, when it is over.
   constexpr int kBurst = 32;
-  if (burstEdits_++ == 0) {
+  if (burstEdits_ == 0) {
     QMetaObject::invokeMethod(
         this,
         [this] {
@@ -246,6 +246,7 @@ void SciEdit::PauseWrapInBursts() {
         },
         Qt::QueuedConnection);
   }
+  if (burstEdits_ < kBurst) ++burstEdits_;
   if (burstEdits_ < kBurst || wrapSuspended_ || Send(SCI_GETWRAPMODE) == SC_WRAP_NONE) return;
   suspendedWrap_ = Send(SCI_GETWRAPMODE);
   Send(SCI_SETWRAPMODE, SC_WRAP_NONE);

@@ -48,6 +48,11 @@ TEST_F(EditWidget, EnterIndentsLikeTheLineBefore) {
   Key(&e, 'X', Qt::ShiftModifier, "X");
   Key(&e, Qt::Key_Return, {}, "\r");
   EXPECT_EQ(e.Text(), "<UL>\r\n\t\t<LI>item\r\n\t\tX\r\n\t\t");
+
+  SciEdit& odd = Document("text\tmore");
+  odd.SetSelStart(9);
+  Key(&odd, Qt::Key_Return, {}, "\r");
+  EXPECT_EQ(odd.Text(), "text\tmore\r\n\t\t\t\t\t");
 }
 
 TEST_F(EditWidget, ControlKeysWriteMarkupAndTypedLessThanStaysBlack) {
@@ -93,6 +98,9 @@ TEST_F(EditWidget, EditMenuCommandsAndTheRightButton) {
   Key(&e, 'A', {}, "a");
   frame->Command("mnuUndo")->trigger();
   EXPECT_EQ(e.Text(), "cut ");
+  frame->Button("tbrFormat", "Bold")->trigger();
+  frame->Command("mnuUndo")->trigger();  // straight after a tag command: nothing
+  EXPECT_EQ(e.Text(), "cut <B></B>");
 
   ASSERT_TRUE(frame->Command("mnuWordWrap")->isChecked());
   frame->Command("mnuWordWrap")->trigger();
