@@ -5,7 +5,6 @@
 #include <cstring>
 
 #include "core/Application.h"
-#include "core/TextServices.h"
 #include "platform/EditControl.h"
 #include "platform/MessageBoxes.h"
 #include "platform/SettingsStore.h"
@@ -33,10 +32,16 @@ bool EqualAt(const unsigned char* s, const unsigned char* needle, size_t n, cons
   return true;
 }
 
-bool IsSilentNeedle(std::string_view needle) {
-  std::string upper(needle);
-  for (char& c : upper)
+std::string Upper(std::string_view s) {
+  std::string out(s);
+  for (char& c : out)
     if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 32);
+  return out;
+}
+
+// The callers that locate page structure search quietly.
+bool IsSilentNeedle(std::string_view needle) {
+  const std::string upper = Upper(needle);
   return upper == "<BODY" || upper == "<TITLE>" || upper == "<HEAD>" || upper == "</HEAD>";
 }
 
@@ -64,13 +69,6 @@ void Conclude(Application& app, Pos found, std::string_view needle) {
   }
   if (e) f.LastFoundStart = e->SelStart();
   f.NewSearch = false;
-}
-
-std::string Upper(std::string_view s) {
-  std::string out(s);
-  for (char& c : out)
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 32);
-  return out;
 }
 
 }  // namespace

@@ -37,6 +37,8 @@ Form2::Form2(Application& app, QWidget* parent)
   for (int margin = 0; margin < 5; ++margin)
     edit_->SendScintilla(QsciScintillaBase::SCI_SETMARGINWIDTHN, margin, 0L);
   edit_->SendScintilla(QsciScintillaBase::SCI_SETMARGINLEFT, 0UL, 60L / 15);
+  // Wrapped lines end 300 twips short of the control's right edge.
+  edit_->SendScintilla(QsciScintillaBase::SCI_SETMARGINRIGHT, 0UL, 300L / 15);
   edit_->installEventFilter(this);
   edit_->viewport()->installEventFilter(this);
   edit_->viewport()->setMouseTracking(true);
