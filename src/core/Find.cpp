@@ -139,8 +139,22 @@ void FindText(Application& app, Pos start, std::string_view needle, int directio
       const Pos q = SearchDown(e->RangeView(from, length - from), 0, needle, matchCase);
       if (q >= 0) found = from + q;
     }
-  } else if (from - 2 >= 0) {
-    found = SearchUp(e->RangeView(0, std::min(length, from - 2 + n)), from, needle, matchCase);
+  } else {
+    // Backwards in growing windows: the control's gap, left at the last edit, is crossed
+    // only near the caret, never moved across the whole text.
+    Pos limit = from, hi = std::min(length, from - 2 + n);
+    for (Pos chunk = 64 * 1024; limit - 2 >= 0; chunk *= 2) {
+      const Pos lo = std::max<Pos>(0, hi - chunk);
+      const Pos q = SearchUp(e->RangeView(lo, hi - lo), limit - lo, needle, matchCase);
+      if (q >= 0) {
+        found = lo + q;
+        break;
+      }
+      if (lo == 0) break;
+      // Next, the pieces that start before this window.
+      limit = lo + 1;
+      hi = std::min(length, lo - 1 + n);
+    }
   }
   Conclude(app, found, needle);
 }

@@ -117,6 +117,24 @@ TEST_F(FindTest, UpwardsSkipsThePieceAtTheCaretAndFinishesAtTheStart) {
   EXPECT_EQ(Messages().size(), 2u);
 }
 
+TEST_F(FindTest, UpwardsOnALongTextFindsMatchesAcrossItsReadingWindows) {
+  std::string text(300000, '.');
+  // Around where the windows read back from the end meet, and at the very start.
+  for (const Pos at : {0, 300000 - 2 - 65536 - 1, 300000 - 2 - 65536 - 3 * 65536 - 2})
+    text.replace(static_cast<size_t>(at), 4, "abcd");
+  BufferEdit& e = Open(text);
+  e.SetSelStart(e.Length());
+  f().FindDirection = 0;
+  f().FindWhat = "ABCD";
+  for (Pos from = e.Length() + 1;;) {
+    mnuSFindNext(t.app);
+    if (f().FindFinished) break;
+    ASSERT_EQ(e.SelStart(), SearchUp(text, from, "abcd", false));
+    from = e.SelStart() + 1;  // the match the caret stands on is passed over
+  }
+  EXPECT_EQ(e.SelStart(), 0);
+}
+
 TEST_F(FindTest, PageStructureNeedlesAreSilent) {
   BufferEdit& e = Open("<html><head><title>t</title></head><body>x</body></html>");
   FindText(t.app, 0, e.Text(), "</head>", 1, false);
