@@ -202,7 +202,8 @@ bool Form2::ViewportEvent(QEvent* event) {
       const QString file = DraggedFile(drop->mimeData());
       if (file.isEmpty()) return false;
       drop->acceptProposedAction();
-      DropFile(app_, *this, file.toStdString());
+      // A name that makes no markup still hands the focus to the text.
+      if (!DropFile(app_, *this, file.toStdString())) edit_->setFocus();
       return true;
     }
     default:
