@@ -35,7 +35,8 @@ bool EditKeyDown(Application& app, DocumentWindow& window, int keyCode, bool shi
   EditControl& e = window.Edit();
   switch (keyCode) {
     case kKeyTab:
-      if (e.SelLength() >= 2 && e.SelText().find("\r\n") != std::string::npos) {
+      if (e.SelLength() >= 2 &&
+          e.RangeView(e.SelStart(), e.SelLength()).find("\r\n") != std::string_view::npos) {
         BlockIndent(e, shift);
         return true;
       }
