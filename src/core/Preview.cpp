@@ -122,18 +122,14 @@ bool TakeBrowser(Application& app, const std::string& key, std::string& browser)
 }  // namespace
 
 std::string BrowserPathOfCommand(const std::string& command) {
+  // A command line names its program first, quoted when the path holds blanks; what
+  // follows are arguments, which the stored path doesn't keep.
   std::string path;
-  const size_t exe = command.size() > 3 ? LCase(command).find(".exe", 3) : std::string::npos;
-  if (exe != std::string::npos) {
-    path = command.substr(0, exe + 4);
-  } else {
-    // An Exec line names its program first, quoted when it holds blanks.
-    const size_t start = command.find_first_not_of(' ');
-    if (start != std::string::npos) {
-      const bool quoted = command[start] == '"';
-      const size_t end = command.find(quoted ? '"' : ' ', start + 1);
-      path = command.substr(start, end == std::string::npos ? std::string::npos : end - start);
-    }
+  const size_t start = command.find_first_not_of(' ');
+  if (start != std::string::npos) {
+    const bool quoted = command[start] == '"';
+    const size_t end = command.find(quoted ? '"' : ' ', start + 1);
+    path = command.substr(start, end == std::string::npos ? std::string::npos : end - start);
   }
   std::string bare;
   for (char c : path)

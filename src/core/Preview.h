@@ -25,8 +25,8 @@ void ShowFileProperties(Application& app, const std::string& path);
 // The default browser's command line, "" when the desktop names none.
 std::string ReadDefaultBrowserCommand(Application& app);
 
-// The browser to store from a default-browser command: cut behind the first ".exe" (looked
-// for from the fourth character on), else the program alone; double quotes removed.
+// The browser to store from a default-browser command: the program alone, without its
+// arguments and double quotes.
 std::string BrowserPathOfCommand(const std::string& command);
 // A command line's words: split on blanks, a double-quoted stretch staying one word.
 std::vector<std::string> SplitCommandLine(const std::string& commandLine);

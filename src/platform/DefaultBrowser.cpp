@@ -38,12 +38,14 @@ std::vector<std::string> SplitList(const std::string& s, char sep) {
   return out;
 }
 
+// These files are small; a huge one is read no further than any real one could reach.
 std::string ReadFile(const fs::path& p) {
   std::ifstream in(p, std::ios::binary);
   if (!in) return "";
-  std::ostringstream s;
-  s << in.rdbuf();
-  return s.str();
+  std::string text(1 << 20, '\0');
+  in.read(text.data(), static_cast<std::streamsize>(text.size()));
+  text.resize(static_cast<size_t>(in.gcount()));
+  return text;
 }
 
 std::string ConfigHome() {

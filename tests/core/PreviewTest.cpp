@@ -152,6 +152,13 @@ TEST_F(PreviewTest, BrowserOneIsTheDesktopsViewerUnlessOverrideSaysOtherwise) {
   EXPECT_EQ(WordsOf(browser), std::vector<std::string>{page});
   EXPECT_EQ(platform.defaultBrowser.asked, 1);  // the stored path is used from now on
   EXPECT_EQ(shell.opened.size(), 1u);
+
+  // Only "0" means the desktop's viewer: an empty Override doesn't.
+  ::unlink((browser + ".args").c_str());
+  store.SaveSetting("Apps", "Override", "");
+  ViewInBrowser(app, "Browser");
+  EXPECT_EQ(WordsOf(browser), std::vector<std::string>{page});
+  EXPECT_EQ(shell.opened.size(), 1u);
 }
 
 TEST_F(PreviewTest, BrowserTwoAlwaysUsesItsStoredPathFoundOnceFromTheDesktop) {
@@ -295,8 +302,9 @@ TEST(BrowserCommand, TheStoredPathIsTheProgramAloneWithoutQuotes) {
            Case{"\"/opt/my browser/firefox\" --new-window", "/opt/my browser/firefox"},
            Case{"/usr/bin/firefox", "/usr/bin/firefox"},
            Case{"  /usr/bin/chromium --incognito", "/usr/bin/chromium"},
-           Case{"/usr/bin/wine \"C:\\a b\\x.exe\"", "/usr/bin/wine C:\\a b\\x.exe"},
-           Case{".exe/browser", ".exe/browser"},
+           Case{"/usr/bin/wine \"C:\\a b\\x.exe\"", "/usr/bin/wine"},
+           Case{"\"/opt/unclosed quote", "/opt/unclosed quote"},
+           Case{"   ", ""},
        }) {
     EXPECT_EQ(BrowserPathOfCommand(c.command), c.path) << c.command;
   }
