@@ -54,6 +54,13 @@ struct PreviewTest : ::testing::Test {
     return *w;
   }
 
+  std::string SavedPage(const std::string& name) {
+    const std::string page = dir / name;
+    WriteAll(page, "x");
+    Window(page, "x");
+    return page;
+  }
+
   // A program at `name` in the scratch folder that records its words in `name`.args.
   std::string Recorder(const std::string& name) {
     const std::string path = dir / name;
@@ -137,9 +144,7 @@ TEST_F(PreviewTest, AnEmptyDocumentNeverReachesABrowser) {
 TEST_F(PreviewTest, BrowserOneIsTheDesktopsViewerUnlessOverrideSaysOtherwise) {
   const std::string browser = Recorder("mybrowser");
   platform.defaultBrowser.command = "\"" + browser + "\" --new-window";
-  const std::string page = dir / "page.html";
-  WriteAll(page, "x");
-  Window(page, "x");
+  const std::string page = SavedPage("page.html");
 
   // First run: the desktop's browser is stored without its arguments, then not used.
   ViewInBrowser(app, "Browser");
@@ -161,37 +166,30 @@ TEST_F(PreviewTest, BrowserOneIsTheDesktopsViewerUnlessOverrideSaysOtherwise) {
   EXPECT_EQ(shell.opened.size(), 1u);
 }
 
-TEST_F(PreviewTest, BrowserTwoAlwaysUsesItsStoredPathFoundOnceFromTheDesktop) {
-  const std::string browser = Recorder("other");
-  platform.defaultBrowser.command = browser + " --private-window";
+TEST_F(PreviewTest, BrowserTwoNotChosenComesFromTheDesktopElseFromTheUser) {
+  const std::string page = SavedPage("a.htm");
+  const std::string desktops = Recorder("desktops");
+  platform.defaultBrowser.command = desktops + " --private-window";
   store.SaveSetting("Apps", "Browser2", "C:\\");  // "not chosen yet" in any case
-  const std::string page = dir / "a.htm";
-  WriteAll(page, "x");
-  Window(page, "x");
   ViewInBrowser(app, "Browser2");
-  EXPECT_EQ(store.GetSetting("Apps", "Browser2", ""), browser);
-  EXPECT_EQ(WordsOf(browser), std::vector<std::string>{page});
+  EXPECT_EQ(store.GetSetting("Apps", "Browser2", ""), desktops);
+  EXPECT_EQ(WordsOf(desktops), std::vector<std::string>{page});
   EXPECT_TRUE(shell.opened.empty());
-}
 
-TEST_F(PreviewTest, NoDesktopBrowserAsksForTheProgramAndStoresIt) {
-  const std::string browser = Recorder("picked");
-  platform.fileDialogs.Queue(browser);
-  const std::string page = dir / "a.htm";
-  WriteAll(page, "x");
-  Window(page, "x");
+  const std::string picked = Recorder("picked");
+  platform.defaultBrowser.command = "";
+  platform.fileDialogs.Queue(picked);
+  store.SaveSetting("Apps", "Browser2", "");
   ViewInBrowser(app, "Browser2");
   EXPECT_EQ(Texts(), std::vector<std::string>{
                          "Browser statement not found in Windows Registry.\r\nSelect the "
                          "file/path of the browser you wish to use."});
-  EXPECT_EQ(store.GetSetting("Apps", "Browser2", ""), browser);
-  EXPECT_EQ(WordsOf(browser), std::vector<std::string>{page});
+  EXPECT_EQ(store.GetSetting("Apps", "Browser2", ""), picked);
+  EXPECT_EQ(WordsOf(picked), std::vector<std::string>{page});
 }
 
 TEST_F(PreviewTest, OnlyInternetExplorerGetsItsTargetQuotedAsOneWord) {
-  const std::string page = dir / "my page.html";
-  WriteAll(page, "x");
-  Window(page, "x");
+  const std::string page = SavedPage("my page.html");
   for (const char* name : {"IEXPLORE.EXE", "netscape.exe", "lynx"}) {
     SCOPED_TRACE(name);
     const std::string browser = Recorder(name);
@@ -207,9 +205,7 @@ TEST_F(PreviewTest, OnlyInternetExplorerGetsItsTargetQuotedAsOneWord) {
 
 TEST_F(PreviewTest, ABrowserThatCannotStartOffersThePreferences) {
   store.SaveSetting("Apps", "Browser2", dir / "no-such-browser");
-  const std::string page = dir / "a.htm";
-  WriteAll(page, "x");
-  Window(page, "x");
+  const std::string page = SavedPage("a.htm");
   messages.Queue(MsgAnswer::No);
   ViewInBrowser(app, "Browser2");
   messages.Queue(MsgAnswer::Yes);
