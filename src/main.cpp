@@ -5,6 +5,7 @@
 
 #include "core/Application.h"
 #include "core/Startup.h"
+#include "platform/DefaultBrowser.h"
 #include "platform/Platform.h"
 #include "ui/MDIForm1.h"
 #include "ui/QtPlatform.h"
@@ -28,13 +29,14 @@ int main(int argc, char** argv) {
   tessarine::QtClipboard clipboard;
   tessarine::QtImageInfo images;
   tessarine::SystemClock clock;
+  tessarine::XdgDefaultBrowser browser;
   tessarine::MDIForm1 frame;
   messages.SetParent(&frame);
   dialogs.SetParent(&frame);
   colors.SetParent(&frame);
   shell.SetParent(&frame);
   tessarine::Application app(
-      {frame, messages, store, dialogs, colors, shell, clipboard, images, clock}, folder);
+      {frame, messages, store, dialogs, colors, shell, clipboard, images, clock, &browser}, folder);
   app.defaultDocumentFolder = QDir::homePath().toStdString();
   frame.show();
   frame.Load(app, commandLine);

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/DocumentList.h"
+#include "core/Preview.h"
 #include "platform/Platform.h"
 #include "settings/Settings.h"
 
@@ -47,6 +48,7 @@ class Application : public Platform {
   TextServiceState textServices;
   ColorizeState colorizing;
   FileState files;
+  ProgramState programs;
 
   // The frame's active child: every command works on it at the moment it runs.
   DocumentWindow* ActiveDocument();

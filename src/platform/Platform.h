@@ -12,6 +12,7 @@ class Shell;
 class Clipboard;
 class ImageInfo;
 class Clock;
+class DefaultBrowser;
 
 struct Platform {
   Frame& frame;
@@ -23,6 +24,8 @@ struct Platform {
   Clipboard& clipboard;
   ImageInfo& images;
   Clock& clock;
+  // The desktop's default browser; when unset, asked through the XDG files.
+  DefaultBrowser* defaultBrowser = nullptr;
 };
 
 }  // namespace tessarine
