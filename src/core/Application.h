@@ -8,6 +8,7 @@
 #include "core/DocumentList.h"
 #include "platform/Platform.h"
 #include "settings/Settings.h"
+#include "wizards/WizardState.h"
 
 namespace tessarine {
 
@@ -47,6 +48,7 @@ class Application : public Platform {
   TextServiceState textServices;
   ColorizeState colorizing;
   FileState files;
+  WizardState wizards;
 
   // The frame's active child: every command works on it at the moment it runs.
   DocumentWindow* ActiveDocument();

@@ -1,6 +1,7 @@
 #pragma once
 // The whole platform without a display: for tests and the command line.
 
+#include "platform/CheckedQuestions.h"
 #include "platform/Desktop.h"
 #include "platform/FileDialogs.h"
 #include "platform/HeadlessFrame.h"
@@ -20,9 +21,11 @@ struct HeadlessPlatform {
   MemoryClipboard clipboard;
   HeaderImageInfo images;
   FixedClock clock;
+  ScriptedCheckedQuestions checkedQuestions;
 
   Platform Get() {
-    return {frame, messages, store, fileDialogs, colorDialog, shell, clipboard, images, clock};
+    return {frame, messages, store, fileDialogs, colorDialog, shell, clipboard, images, clock,
+            checkedQuestions};
   }
 };
 

@@ -12,6 +12,7 @@ class Shell;
 class Clipboard;
 class ImageInfo;
 class Clock;
+class CheckedQuestions;
 
 struct Platform {
   Frame& frame;
@@ -23,6 +24,7 @@ struct Platform {
   Clipboard& clipboard;
   ImageInfo& images;
   Clock& clock;
+  CheckedQuestions& checkedQuestions;
 };
 
 }  // namespace tessarine
