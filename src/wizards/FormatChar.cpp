@@ -31,9 +31,7 @@ FormatChar::Tags FormatChar::Build() const {
   if (!Combo3.empty()) face = std::string(" FACE=") + q + Combo3 + q;
   if (!Text1.empty()) color = std::string(" COLOR=") + q + "#" + Text1 + q;
   if (Combo1 != "Default" && !Combo1.empty()) {
-    const std::string value = Combo1 == "1 - small"   ? "1"
-                              : Combo1 == "7 - large" ? "7"
-                                                      : Combo1;
+    const std::string value = Combo1 == "1 - small" ? "1" : Combo1 == "7 - large" ? "7" : Combo1;
     size = std::string(" SIZE=") + q + value + q;
   }
   Tags t;

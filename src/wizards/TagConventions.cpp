@@ -35,9 +35,9 @@ char At(const std::string& s, long long p) {
                                                            : '\0';
 }
 
-const char* const kColorNames[16] = {"aqua",  "black", "blue",   "fuschia", "gray",   "green",
-                                     "lime",  "maroon", "navy",  "olive",   "purple", "red",
-                                     "silver", "teal",  "white", "yellow"};
+const char* const kColorNames[16] = {"aqua",   "black",  "blue",  "fuschia", "gray",   "green",
+                                     "lime",   "maroon", "navy",  "olive",   "purple", "red",
+                                     "silver", "teal",   "white", "yellow"};
 const char* const kColorValues[16] = {"00FFFF", "000000", "0000FF", "FF00FF", "808080", "008000",
                                       "00FF00", "800000", "000080", "808000", "800080", "FF0000",
                                       "C0C0C0", "008080", "FFFFFF", "FFFF00"};
@@ -56,8 +56,7 @@ std::string FormatAttribute(bool upper, std::string_view head, std::string_view 
   return out;
 }
 
-std::string FormatAttribute(const Application& app, std::string_view head,
-                            std::string_view value) {
+std::string FormatAttribute(const Application& app, std::string_view head, std::string_view value) {
   return FormatAttribute(TagCaseUpper(app) == 1, head, value);
 }
 
