@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QSignalBlocker>
 #include <QTabWidget>
 #include <QToolBar>
 #include <QToolButton>
@@ -202,11 +203,14 @@ void BuildShortcutBar(MDIForm1& frame) {
   bar->SetGroups(ShortcutBarGroups(none));
   frame.OnSettingsLoaded([f, bar] {
     SettingsStore& store = f->App()->store;
+    const QSignalBlocker quiet(bar);  // only the user's choice of group is remembered
     bar->SetGroups(ShortcutBarGroups(store));
     const int group =
         static_cast<int>(Val(store.GetSetting("Miscellaneous", "DefaultShortcutBarGroup", "")));
     if (group >= 1 && group <= bar->count()) bar->setCurrentIndex(group - 1);
   });
+  QObject::connect(bar, &QToolBox::currentChanged, f,
+                   [f](int index) { f->SetShortcutBarGroup(std::to_string(index + 1)); });
 }
 
 }  // namespace

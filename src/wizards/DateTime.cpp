@@ -51,7 +51,9 @@ CheckResult DateTime_OK(Application& app, const DateTime& form) {
     app.messages.Show(failed->message, MsgButtons::OK, MsgIcon::None, app.title);
     return failed;
   }
-  if (EditControl* e = app.ActiveEdit()) e->ReplaceSel(form.Build(app.clock.Now()));
+  const std::string stamp = form.Build(app.clock.Now());
+  EditControl* e = app.ActiveEdit();
+  if (e && !stamp.empty()) e->ReplaceSel(stamp);
   return std::nullopt;
 }
 

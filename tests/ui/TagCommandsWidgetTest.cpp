@@ -30,6 +30,7 @@ class TagCommandsWidget : public ::testing::Test {
     ASSERT_TRUE(dir.isValid());
     qputenv("XDG_DATA_HOME", (dir.path() + "/data").toUtf8());
     store.SaveSetting("Miscellaneous", "FirstRun", "no");
+    store.SaveSetting("Miscellaneous", "DefaultShortcutBarGroup", "3");
     frame = std::make_unique<MDIForm1>();
     app = std::make_unique<Application>(
         Platform{*frame, messages, store, headless.fileDialogs, headless.colorDialog,
@@ -118,6 +119,15 @@ TEST_F(TagCommandsWidget, LaterWizardsStayDimmed) {
   auto* bar = frame->findChild<ui::SSListBar*>("SSListBar1");
   EXPECT_TRUE(bar->HasKey("FormWizard"));
   EXPECT_FALSE(bar->ClickKey("FormWizard"));
+}
+
+TEST_F(TagCommandsWidget, ShortcutBarOpensAndRemembersItsGroup) {
+  auto* bar = frame->findChild<ui::SSListBar*>("SSListBar1");
+  EXPECT_EQ(bar->currentIndex(), 2);
+  bar->setCurrentIndex(3);
+  for (int i = 1; i <= app->documents.UpperBound(); ++i) app->documents.State(i).Changed = false;
+  frame->close();
+  EXPECT_EQ(store.GetSetting("Miscellaneous", "DefaultShortcutBarGroup", ""), "4");
 }
 
 TEST_F(TagCommandsWidget, FormatButtonOpensTheFormatDialog) {

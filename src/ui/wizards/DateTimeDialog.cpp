@@ -15,9 +15,8 @@ DateTime::DateTime(Application& app, QWidget* parent)
   auto* form = new QFormLayout;
   Combo1_ = new QComboBox;
   Combo1_->setObjectName("Combo1");
-  Combo1_->setEditable(true);  // may be left empty: OK then asks for a row
   for (const std::string& row : DateTimeRows()) Combo1_->addItem(Q(row));
-  Combo1_->setEditText("");
+  Combo1_->setCurrentIndex(-1);  // none chosen: OK then asks for a row
   form->addRow("Date/Time format:", Combo1_);
   Text1_ = new QLineEdit("This page last updated");
   Text1_->setObjectName("Text1");

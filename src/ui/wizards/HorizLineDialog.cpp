@@ -30,6 +30,7 @@ frmHorizLine::frmHorizLine(Application& app, QWidget* parent)
   upDown->setObjectName("UpDown1");
   upDown->setRange(0, 999);
   upDown->setValue(1);
+  upDown->setFixedWidth(18);  // the arrows alone: Text1 shows the number
   auto* thickness = new QHBoxLayout;
   thickness->addWidget(Text1_, 1);
   thickness->addWidget(upDown);
@@ -42,8 +43,8 @@ frmHorizLine::frmHorizLine(Application& app, QWidget* parent)
   form->addRow("", Check1_);
   cmbAlign_ = new QComboBox;
   cmbAlign_->setObjectName("cmbAlign");
-  cmbAlign_->addItem("");
   for (const char* a : kHorizLineAligns) cmbAlign_->addItem(a);
+  cmbAlign_->setCurrentIndex(-1);  // no alignment until one is chosen
   form->addRow("Align:", cmbAlign_);
   layout->addLayout(form);
   connect(upDown, &QSpinBox::valueChanged, this,

@@ -41,6 +41,7 @@ Metatags::Metatags(Application& app, QWidget* parent)
   auto* upDown = new QSpinBox;
   upDown->setObjectName("UpDown1");
   upDown->setRange(0, 3600);
+  upDown->setFixedWidth(18);
   auto* seconds = new QHBoxLayout;
   seconds->addWidget(Text3_, 1);
   seconds->addWidget(upDown);
