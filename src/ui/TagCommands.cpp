@@ -152,7 +152,7 @@ void BuildInsertMenu(MDIForm1& frame) {
   frame.AddCommand(scripting, "mnuScriptTags", "&Script Tags...", true,
                    [f] { ShowTagDialog(*f, "frmScriptTags"); });
   AddLater(frame, insert, "mnuJavaApplet", "&Java Applet...");
-  AddLater(frame, insert, "mnuembed", "&Embedded Media...");
+  AddLater(frame, insert, "mnuembed", "Em&bedded Media...");
   AddLater(frame, insert, "mnuSpecialEffectsMain", "Special Effe&cts...");
 
   frame.AddCommand(frame.Menu("mnuEdit"), "mnuRepeat", "Repeat &Last Command", true, [f] {

@@ -15,7 +15,7 @@ namespace {
 // What a cell shows: the character its text stands for, where it stands for one.
 QString Face(const std::string& cell) {
   const QString shown = QTextDocumentFragment::fromHtml(Q(cell)).toPlainText();
-  return shown.size() == 1 ? shown : Q(cell);
+  return shown.size() == 1 ? shown : Q(cell).replace('&', "&&");  // no mnemonic
 }
 }  // namespace
 
