@@ -1,5 +1,8 @@
 // The Insert and Format menus, the tag buttons of the toolbars and the shortcut bar.
 
+#include <Qsci/qscicommand.h>
+#include <Qsci/qscicommandset.h>
+
 #include <QAction>
 #include <QMenu>
 #include <QSignalBlocker>
@@ -13,7 +16,9 @@
 #include "platform/SettingsStore.h"
 #include "settings/Settings.h"
 #include "ui/Commands.h"
+#include "ui/Form2.h"
 #include "ui/MDIForm1.h"
+#include "ui/SciEdit.h"
 #include "ui/wizards/DateTimeDialog.h"
 #include "ui/wizards/FormatCharDialog.h"
 #include "ui/wizards/HorizLineDialog.h"
@@ -213,6 +218,20 @@ void BuildShortcutBar(MDIForm1& frame) {
                    [f](int index) { f->SetShortcutBarGroup(std::to_string(index + 1)); });
 }
 
+// The edit control would claim some of the tag shortcuts for its own commands (Ctrl+U
+// lower-cases the selection): the menu's meaning wins.
+void FreeTagShortcuts(Form2& form) {
+  QsciCommandSet* commands = form.RichTextBox1().standardCommands();
+  for (QKeyCombination k : {Qt::CTRL | Qt::Key_B, Qt::CTRL | Qt::Key_I, Qt::CTRL | Qt::Key_U,
+                            Qt::CTRL | Qt::Key_K, Qt::CTRL | Qt::Key_H}) {
+    const int key = k.toCombined();
+    while (QsciCommand* c = commands->boundTo(key)) {
+      if (c->key() == key) c->setKey(0);
+      if (c->alternateKey() == key) c->setAlternateKey(0);
+    }
+  }
+}
+
 }  // namespace
 
 void BuildTagCommands(MDIForm1& frame) {
@@ -220,6 +239,7 @@ void BuildTagCommands(MDIForm1& frame) {
   BuildInsertMenu(frame);
   BuildButtons(frame);
   BuildShortcutBar(frame);
+  frame.OnNewDocumentWindow(FreeTagShortcuts);
 }
 
 }  // namespace tessarine

@@ -8,7 +8,10 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -18,7 +21,9 @@
 #include "core/Application.h"
 #include "platform/EditControl.h"
 #include "platform/HeadlessPlatform.h"
+#include "ui/Form2.h"
 #include "ui/MDIForm1.h"
+#include "ui/SciEdit.h"
 #include "ui/wizards/SSListBar.h"
 
 namespace tessarine {
@@ -107,6 +112,23 @@ TEST_F(TagCommandsWidget, MenusButtonsAndShortcutBarRunTheirCommands) {
   headless.colorDialog.Queue(0xFF);
   frame->Button("tbrTools", "Color Picker")->trigger();
   EXPECT_EQ(Edit().Text(), "<Mine>#FF0000");
+}
+
+TEST_F(TagCommandsWidget, TheEditorLeavesTheTagShortcutsToTheMenus) {
+  auto* form = qobject_cast<Form2*>(frame->MdiArea()->currentSubWindow()->widget());
+  ASSERT_NE(form, nullptr);
+  for (Qt::Key key : {Qt::Key_B, Qt::Key_I, Qt::Key_U, Qt::Key_K, Qt::Key_H}) {
+    QKeyEvent override(QEvent::ShortcutOverride, key, Qt::ControlModifier);
+    override.ignore();
+    QApplication::sendEvent(&form->RichTextBox1(), &override);
+    EXPECT_FALSE(override.isAccepted()) << key;
+  }
+  EXPECT_EQ(frame->Command("mnuPhysicalStyles6")->shortcut(), QKeySequence("Ctrl+U"));
+  // Its other keys stay its own.
+  QKeyEvent lineCut(QEvent::ShortcutOverride, Qt::Key_L, Qt::ControlModifier);
+  lineCut.ignore();
+  QApplication::sendEvent(&form->RichTextBox1(), &lineCut);
+  EXPECT_TRUE(lineCut.isAccepted());
 }
 
 TEST_F(TagCommandsWidget, LaterWizardsStayDimmed) {
