@@ -194,6 +194,33 @@ TEST_F(TagCommandsWidget, MetatagsStayOpenOnAFailedCheckAndWriteTheHead) {
             "<HTML><HEAD>\r\n<META Name=\"keywords\" Content=\"a, b\"></HEAD><BODY></BODY></HTML>");
 }
 
+TEST_F(TagCommandsWidget, DateStampAndScriptBlockFromMenuAndShortcutBar) {
+  std::tm now{};
+  now.tm_year = 2026 - 1900;
+  now.tm_mon = 10;
+  now.tm_mday = 21;
+  headless.clock.Set(now);
+  Text("", 0, 0);
+  OnDialog([](QDialog* d) {
+    EXPECT_EQ(d->objectName(), "DateTime");
+    Child<QComboBox>(d, "Combo1")->setCurrentText("May 2002");
+    Child<QAbstractButton>(d, "Command1")->click();
+  });
+  frame->Command("mnuDateTime")->trigger();
+  EXPECT_EQ(Edit().Text(), "This page last updated November 2026");
+
+  Text("go()", 0, 4);
+  OnDialog([](QDialog* d) {
+    EXPECT_EQ(d->objectName(), "frmScriptTags");
+    Child<QComboBox>(d, "cmbLanguage")->setCurrentText("JScript");
+    Child<QAbstractButton>(d, "cmdOK")->click();
+  });
+  EXPECT_TRUE(frame->findChild<ui::SSListBar*>("SSListBar1")->ClickKey("Script tags"));
+  EXPECT_EQ(Edit().Text(),
+            "\r\n\r\n<SCRIPT TYPE=\"text/VBScript\" LANGUAGE=\"JScript\">\r\n<!--\r\ngo()\r\n\r\n"
+            "//-->\r\n</SCRIPT>\r\n\r\n");
+}
+
 TEST_F(TagCommandsWidget, SpecialCharactersStayOpenForSeveralCells) {
   Text("", 0, 0);
   OnDialog([](QDialog* d) {
