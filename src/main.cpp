@@ -9,6 +9,7 @@
 #include "platform/Platform.h"
 #include "ui/MDIForm1.h"
 #include "ui/QtPlatform.h"
+#include "ui/wizards/QtCheckedQuestions.h"
 
 int main(int argc, char** argv) {
   QApplication qapp(argc, argv);
@@ -30,13 +31,17 @@ int main(int argc, char** argv) {
   tessarine::QtImageInfo images;
   tessarine::SystemClock clock;
   tessarine::XdgDefaultBrowser browser;
+  tessarine::QtCheckedQuestions questions;
   tessarine::MDIForm1 frame;
   messages.SetParent(&frame);
   dialogs.SetParent(&frame);
   colors.SetParent(&frame);
   shell.SetParent(&frame);
+  questions.SetParent(&frame);
   tessarine::Application app(
-      {frame, messages, store, dialogs, colors, shell, clipboard, images, clock, &browser}, folder);
+      {frame, messages, store, dialogs, colors, shell, clipboard, images, clock, questions,
+       &browser},
+      folder);
   app.defaultDocumentFolder = QDir::homePath().toStdString();
   frame.show();
   frame.Load(app, commandLine);

@@ -9,6 +9,7 @@
 #include "core/Preview.h"
 #include "platform/Platform.h"
 #include "settings/Settings.h"
+#include "wizards/WizardState.h"
 
 namespace tessarine {
 
@@ -49,6 +50,7 @@ class Application : public Platform {
   ColorizeState colorizing;
   FileState files;
   ProgramState programs;
+  WizardState wizards;
 
   // The frame's active child: every command works on it at the moment it runs.
   DocumentWindow* ActiveDocument();

@@ -2,6 +2,7 @@
 // The whole platform without a display: for tests and the command line.
 
 #include "platform/DefaultBrowser.h"
+#include "platform/CheckedQuestions.h"
 #include "platform/Desktop.h"
 #include "platform/FileDialogs.h"
 #include "platform/HeadlessFrame.h"
@@ -22,10 +23,11 @@ struct HeadlessPlatform {
   HeaderImageInfo images;
   FixedClock clock;
   FixedDefaultBrowser defaultBrowser;
+  ScriptedCheckedQuestions checkedQuestions;
 
   Platform Get() {
-    return {frame, messages, store, fileDialogs, colorDialog, shell, clipboard, images, clock,
-            &defaultBrowser};
+    return {frame,  messages, store, fileDialogs,      colorDialog,     shell,
+            clipboard, images, clock, checkedQuestions, &defaultBrowser};
   }
 };
 

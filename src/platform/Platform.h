@@ -13,6 +13,7 @@ class Clipboard;
 class ImageInfo;
 class Clock;
 class DefaultBrowser;
+class CheckedQuestions;
 
 struct Platform {
   Frame& frame;
@@ -24,6 +25,7 @@ struct Platform {
   Clipboard& clipboard;
   ImageInfo& images;
   Clock& clock;
+  CheckedQuestions& checkedQuestions;
   // The desktop's default browser; when unset, asked through the XDG files.
   DefaultBrowser* defaultBrowser = nullptr;
 };

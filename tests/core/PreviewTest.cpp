@@ -33,7 +33,7 @@ struct PreviewTest : ::testing::Test {
   ViewerRecordingShell shell;
   Application app{Platform{platform.frame, platform.messages, platform.store, platform.fileDialogs,
                            platform.colorDialog, shell, platform.clipboard, platform.images,
-                           platform.clock, &platform.defaultBrowser},
+                           platform.clock, platform.checkedQuestions, &platform.defaultBrowser},
                   "/opt/tessarine"};
   ScriptedMessageBoxes& messages = platform.messages;
   MemorySettingsStore& store = platform.store;

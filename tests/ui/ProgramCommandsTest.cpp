@@ -71,7 +71,8 @@ class ProgramCommandsTest : public ::testing::Test {
     frame = std::make_unique<MDIForm1>();
     app = std::make_unique<Application>(
         Platform{*frame, messages, store, dialogs, headless.colorDialog, shell, headless.clipboard,
-                 headless.images, headless.clock, &headless.defaultBrowser},
+                 headless.images, headless.clock, headless.checkedQuestions,
+                 &headless.defaultBrowser},
         dir.path().toStdString());
     frame->show();
     frame->Load(*app, commandLine);
