@@ -65,7 +65,7 @@ int main(int argc, char** argv) {
   HeadlessPlatform h;
   auto frame = std::make_unique<MDIForm1>();
   Application app(Platform{*frame, h.messages, h.store, h.fileDialogs, h.colorDialog, h.shell,
-                           h.clipboard, h.images, h.clock},
+                           h.clipboard, h.images, h.clock, h.checkedQuestions, &h.defaultBrowser},
                   dir.path().toStdString());
   frame->resize(1000, 700);
   frame->show();

@@ -7,8 +7,10 @@
 
 #include "core/DocumentList.h"
 #include "core/Editing.h"
+#include "core/Preview.h"
 #include "platform/Platform.h"
 #include "settings/Settings.h"
+#include "wizards/WizardState.h"
 
 namespace tessarine {
 
@@ -49,6 +51,8 @@ class Application : public Platform {
   ColorizeState colorizing;
   FileState files;
   EditingState editing;
+  ProgramState programs;
+  WizardState wizards;
 
   // The frame's active child: every command works on it at the moment it runs.
   DocumentWindow* ActiveDocument();

@@ -1,27 +1,15 @@
 #include "core/ClockText.h"
 
-#include <cstdio>
+#include "core/DateFormat.h"
 
 namespace tessarine {
 
-namespace {
-const char* const kMonths[] = {"January",   "February", "March",    "April",
-                               "May",       "June",     "July",     "August",
-                               "September", "October",  "November", "December"};
-}
-
 std::string ClockPanelText(const std::tm& t) {
-  const int hour12 = t.tm_hour % 12 == 0 ? 12 : t.tm_hour % 12;
-  char buf[32];
-  std::snprintf(buf, sizeof buf, "%d:%02d %s", hour12, t.tm_min, t.tm_hour < 12 ? "AM" : "PM");
-  return buf;
+  return FormatDate(t, "h:mm AM/PM");
 }
 
 std::string ClockInsertText(const std::tm& t) {
-  char date[64];
-  std::snprintf(date, sizeof date, "%s %02d, %04d ", kMonths[(t.tm_mon % 12 + 12) % 12], t.tm_mday,
-                t.tm_year + 1900);
-  return std::string(date) + "  " + ClockPanelText(t);
+  return FormatDate(t, "mmmm dd, yyyy ") + "  " + ClockPanelText(t);
 }
 
 }  // namespace tessarine

@@ -77,6 +77,8 @@ class MDIForm1 : public QMainWindow, public Frame {
     onNewWindow_.push_back(std::move(f));
   }
   void UpdateMenusForDocumentCount();
+  // The open group of the shortcut bar, saved when the frame closes.
+  void SetShortcutBarGroup(const std::string& group) { shortcutBarGroup_ = group; }
 
  protected:
   void closeEvent(QCloseEvent* event) override;

@@ -27,7 +27,7 @@ class EditFixture : public ::testing::Test {
     // The frame is the window's own, the other services headless.
     app = std::make_unique<Application>(
         Platform{*frame, h.messages, h.store, h.fileDialogs, h.colorDialog, h.shell, h.clipboard,
-                 h.images, h.clock},
+                 h.images, h.clock, h.checkedQuestions, &h.defaultBrowser},
         dir.path().toStdString());
     frame->show();
     frame->Load(*app, "");
