@@ -7,6 +7,8 @@
 #include "platform/DocumentWindow.h"
 #include "platform/EditControl.h"
 #include "platform/Frame.h"
+#include "wizards/SaveWarning.h"
+#include "wizards/TagConventions.h"
 
 namespace tessarine {
 
@@ -157,13 +159,17 @@ bool DropFile(Application& app, DocumentWindow& window, const std::string& path)
   if (!link && !image && !EndsWith(lower, ".css")) return false;
 
   const DropServices& services = app.editing.drop;
-  if (services.checkSaveWarning) services.checkSaveWarning();
+  if (services.checkSaveWarning)
+    services.checkSaveWarning();
+  else
+    CheckSaveWarning(app);
   const auto slash = path.find_last_of('/');
   const std::string folder = slash == std::string::npos ? std::string() : path.substr(0, slash + 1);
   const std::string name = slash == std::string::npos ? path : path.substr(slash + 1);
   // Read after the warning: a save there gives the document its path.
-  const std::string prefix =
-      services.relativePath ? services.relativePath(window.Caption(), folder) : std::string();
+  const std::string caption = window.Caption();
+  const std::string prefix = services.relativePath ? services.relativePath(caption, folder)
+                                                   : RelativePath(caption, folder);
 
   int width = 0, height = 0;
   const bool sizeKnown = image && app.images.Size(path, width, height);

@@ -24,7 +24,8 @@ enum EditKey : int {
   kKeyQuote = 222,          // both quote characters
 };
 
-// What a dropped file needs from the tag-building conventions.
+// What a dropped file needs from the tag-building conventions; empty ones are the
+// conventions' own RelativePath and CheckSaveWarning.
 struct DropServices {
   // The URL prefix from the document (by its caption) to a folder; empty for none.
   std::function<std::string(const std::string& caption, const std::string& folder)> relativePath;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "core/Editing.h"
 #include "core/Styles.h"
 #include "core/TestApp.h"
@@ -92,17 +94,6 @@ TEST(EditCommandsTest, WordWrapTogglesTheFlagForNewWindowsAndThisWindow) {
 
 class DropTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    // Stand-ins for the tag-building conventions: they record what the drop asked.
-    t.app.editing.drop.checkSaveWarning = [this] {
-      events += "warning;";
-      if (saveOnWarning) t.app.ActiveDocument()->SetCaption(dir / "saved.htm");
-    };
-    t.app.editing.drop.relativePath = [this](const std::string& caption, const std::string& f) {
-      events += "relative(" + caption + "," + f + ");";
-      return std::string("pics/");
-    };
-  }
   std::string Gif(const std::string& name, int w, int h) {
     std::string bytes = "GIF89a";
     bytes += static_cast<char>(w & 0xFF);
@@ -110,51 +101,54 @@ class DropTest : public ::testing::Test {
     bytes += static_cast<char>(h & 0xFF);
     bytes += static_cast<char>(h >> 8);
     bytes += std::string(20, '\0');
+    std::filesystem::create_directories(std::filesystem::path(dir / name).parent_path());
     WriteAll(dir / name, bytes);
     return dir / name;
   }
+  size_t Warnings() const { return t.platform.checkedQuestions.asked().size(); }
 
   TestApp t;
   TempDir dir;
-  std::string events;
-  bool saveOnWarning = false;
 };
 
 TEST_F(DropTest, PageBecomesALinkAroundTheSelection) {
   auto& w = t.NewWindow("see here");
   w.Buffer().Select(4, 4);
   EXPECT_TRUE(DropFile(t.app, w, "/site/docs/Page.HTML"));
-  EXPECT_EQ(w.Buffer().Text(), "see <A HREF=\"pics/Page.HTML\">here</A>");
-  EXPECT_EQ(events, "warning;relative(Untitled:1,/site/docs/);");
+  // Still untitled after the warning: a bare file name.
+  EXPECT_EQ(Warnings(), 1u);
+  EXPECT_EQ(w.Buffer().Text(), "see <A HREF=\"Page.HTML\">here</A>");
   EXPECT_GT(w.Buffer().FocusCount(), 0);
 
   t.app.settings.TagCaseUpper = false;
   w.Buffer().SetSelStart(0);
   EXPECT_TRUE(DropFile(t.app, w, "/x/a.shtml"));  // "html" without its dot counts
-  EXPECT_EQ(w.Buffer().Text().substr(0, 29), "<a href=\"pics/a.shtml\"></a>se");
+  EXPECT_EQ(w.Buffer().Text().substr(0, 24), "<a href=\"a.shtml\"></a>se");
 }
 
 TEST_F(DropTest, PictureGetsItsSizeAndStyleSheetKeepsItsOwnCase) {
   auto& w = t.NewWindow();
-  const std::string gif = Gif("dot.gif", 300, 20);
-  saveOnWarning = true;
+  const std::string gif = Gif("docs/img/dot.gif", 300, 20);
+  // Yes to the warning saves the page: the path is made relative to where it went.
+  t.platform.checkedQuestions.Queue(true, false);
+  t.dialogs.Queue(dir / "docs/page.htm");
   EXPECT_TRUE(DropFile(t.app, w, gif));
-  EXPECT_EQ(w.Buffer().Text(), "<IMG SRC=\"pics/dot.gif\" WIDTH=\"300\" HEIGHT=\"20\">");
-  // The path is made relative to the document as saved by the warning.
-  EXPECT_NE(events.find("relative(" + (dir / "saved.htm")), std::string::npos);
+  EXPECT_EQ(w.Caption(), dir / "docs/page.htm");
+  EXPECT_EQ(w.Buffer().Text(), "<IMG SRC=\"img/dot.gif\" WIDTH=\"300\" HEIGHT=\"20\">");
 
   w.Buffer().SetText("");
   t.app.settings.TagCaseUpper = false;
-  EXPECT_TRUE(DropFile(t.app, w, dir / "broken.JPG"));  // no such picture: no size
-  EXPECT_EQ(w.Buffer().Text(), "<img src=\"pics/broken.JPG\" width=\"\" height=\"\">");
+  EXPECT_TRUE(DropFile(t.app, w, dir / "docs/broken.JPG"));  // no such picture: no size
+  EXPECT_EQ(w.Buffer().Text(), "<img src=\"broken.JPG\" width=\"\" height=\"\">");
 
   w.Buffer().SetText("");
   t.app.settings.TagCaseUpper = true;
-  EXPECT_TRUE(DropFile(t.app, w, "/s/look.css"));
-  EXPECT_EQ(w.Buffer().Text(), "<link rel=\"StyleSheet\" href=\"pics/look.css\">");
+  EXPECT_TRUE(DropFile(t.app, w, dir / "css/look.css"));
+  EXPECT_EQ(w.Buffer().Text(), "<link rel=\"StyleSheet\" href=\"../css/look.css\">");
+  EXPECT_EQ(Warnings(), 1u);  // saved now: no more warnings
 
   EXPECT_FALSE(DropFile(t.app, w, "/s/pic.jpeg"));  // nothing else becomes markup
-  EXPECT_EQ(w.Buffer().Text(), "<link rel=\"StyleSheet\" href=\"pics/look.css\">");
+  EXPECT_EQ(w.Buffer().Text(), "<link rel=\"StyleSheet\" href=\"../css/look.css\">");
 }
 
 }  // namespace

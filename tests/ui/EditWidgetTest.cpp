@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QContextMenuEvent>
+#include <QDir>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
@@ -118,10 +119,10 @@ TEST_F(EditWidget, EditMenuCommandsAndTheRightButton) {
 TEST_F(EditWidget, DroppedStyleSheetBecomesALink) {
   SciEdit& e = Document("x");
   e.SetSelStart(1);
-  app->editing.drop.relativePath = [](const std::string&, const std::string&) {
-    return std::string("css/");
-  };
-  const std::string sheet = dir.path().toStdString() + "/site.css";
+  // A saved page: no warning, and the path relative to it.
+  Active()->SetCaption(dir.path().toStdString() + "/page.htm");
+  QDir(dir.path()).mkdir("css");
+  const std::string sheet = dir.path().toStdString() + "/css/site.css";
   std::ofstream(sheet) << "p {}";
   QMimeData data;
   data.setUrls({QUrl::fromLocalFile(QString::fromStdString(sheet))});
@@ -133,6 +134,7 @@ TEST_F(EditWidget, DroppedStyleSheetBecomesALink) {
   QApplication::sendEvent(e.viewport(), &drop);
   EXPECT_TRUE(drop.isAccepted());
   EXPECT_EQ(e.Text(), "x<link rel=\"StyleSheet\" href=\"css/site.css\">");
+  EXPECT_TRUE(h.checkedQuestions.asked().empty());
 }
 
 TEST(SciEditLines, AgreesWithTheHeadlessControlOnLinesAndRanges) {
