@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/DocumentList.h"
+#include "core/Editing.h"
 #include "core/Preview.h"
 #include "platform/Platform.h"
 #include "settings/Settings.h"
@@ -49,6 +50,7 @@ class Application : public Platform {
   TextServiceState textServices;
   ColorizeState colorizing;
   FileState files;
+  EditingState editing;
   ProgramState programs;
   WizardState wizards;
 

@@ -41,6 +41,8 @@ void InsertAtCaret(Application& app, const std::string& text, bool keepCase) {
   if (!e) return;
   EmptyUndoBuffer(app);
   e->ReplaceSel(Cased(app, text, keepCase));
+  // The insertion itself is no step for Undo either: Undo stops here.
+  EmptyUndoBuffer(app);
   e->SetFocus();
   app.textServices.ReplaceSelectionOnce = false;
 }
@@ -67,6 +69,7 @@ void WrapSelection(Application& app, const std::string& startTag, const std::str
   } else {
     e->ReplaceSel(Cased(app, startTag, keepCase));
   }
+  EmptyUndoBuffer(app);
   ts.LastStartTag = startTag;
   ts.LastEndTag = endTag;
   ts.ReplaceSelectionOnce = false;
@@ -107,6 +110,7 @@ void InsertInHeadAndBody(Application& app, std::string& headText, std::string& b
     e->SetInsertionStyle(plain);
     e->ReplaceSel(headText);
   }
+  EmptyUndoBuffer(app);
 }
 
 }  // namespace tessarine

@@ -42,6 +42,7 @@ class MDIForm1 : public QMainWindow, public Frame {
   void SetStatusText(const std::string& text) override;
   std::string StatusText() const override;
   void SetLengthPanel(std::int64_t length) override;
+  void SetLinePanel(std::int64_t line) override;
   void SetMousePointer(MousePointer pointer) override;
   void SetToolbarButtonsEnabled(bool enabled) override;
   void SetSaveButtonEnabled(bool enabled) override;
