@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "core/Application.h"
+#include "core/TextServices.h"
 #include "platform/EditControl.h"
 #include "platform/MessageBoxes.h"
 #include "platform/SettingsStore.h"
@@ -32,16 +33,9 @@ bool EqualAt(const unsigned char* s, const unsigned char* needle, size_t n, cons
   return true;
 }
 
-std::string Upper(std::string_view s) {
-  std::string out(s);
-  for (char& c : out)
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 32);
-  return out;
-}
-
 // The callers that locate page structure search quietly.
 bool IsSilentNeedle(std::string_view needle) {
-  const std::string upper = Upper(needle);
+  const std::string upper = UCase(needle);
   return upper == "<BODY" || upper == "<TITLE>" || upper == "<HEAD>" || upper == "</HEAD>";
 }
 
@@ -247,10 +241,10 @@ bool mnuSFindNext(Application& app) {
 std::vector<std::string> RebuildSearchHistory(const std::vector<std::string>& history,
                                               const std::string& text) {
   std::vector<std::string> out{text};
-  const std::string key = Upper(text);
+  const std::string key = UCase(text);
   for (const std::string& old : history) {
     if (out.size() >= 5) break;
-    if (Upper(old) != key) out.push_back(old);
+    if (UCase(old) != key) out.push_back(old);
   }
   return out;
 }

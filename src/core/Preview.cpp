@@ -2,6 +2,7 @@
 
 #include "core/Application.h"
 #include "core/FileSave.h"
+#include "core/TextServices.h"
 #include "platform/DefaultBrowser.h"
 #include "platform/Desktop.h"
 #include "platform/DocumentWindow.h"
@@ -16,12 +17,6 @@ namespace tessarine {
 namespace {
 
 const char* const kNotChosen = "c:\\";
-
-std::string LCase(std::string s) {
-  for (char& c : s)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + 32);
-  return s;
-}
 
 std::string Right(const std::string& s, size_t n) {
   return s.size() <= n ? s : s.substr(s.size() - n);

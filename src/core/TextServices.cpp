@@ -15,6 +15,13 @@ std::string LCase(std::string_view text) {
   return out;
 }
 
+std::string UCase(std::string_view text) {
+  std::string out(text);
+  for (char& c : out)
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+  return out;
+}
+
 long long InStrNoCase(long long start, std::string_view text, std::string_view needle) {
   if (start < 1) start = 1;
   const auto lower = [](char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c; };

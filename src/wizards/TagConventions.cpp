@@ -16,13 +16,6 @@ char Lower(char c) {
   return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-std::string UCase(std::string_view text) {
-  std::string out(text);
-  for (char& c : out)
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  return out;
-}
-
 // Mid$ with a one-based start: whatever of the range exists.
 std::string Mid(const std::string& s, long long start, long long length) {
   if (start < 1 || length <= 0 || start > static_cast<long long>(s.size())) return "";
