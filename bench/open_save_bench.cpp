@@ -110,10 +110,10 @@ int main(int argc, char** argv) {
   // The editor: OpenFile into a document window of the main window, coloured.
   HeadlessPlatform headless;
   MDIForm1 frame;
-  Application app(
-      {frame, headless.messages, headless.store, headless.fileDialogs, headless.colorDialog,
-       headless.shell, headless.clipboard, headless.images, headless.clock},
-      dir.string());
+  Application app({frame, headless.messages, headless.store, headless.fileDialogs,
+                   headless.colorDialog, headless.shell, headless.clipboard, headless.images,
+                   headless.clock, headless.checkedQuestions},
+                  dir.string());
   headless.store.SaveSetting("Miscellaneous", "StartNewDoc", "0");
   headless.store.SaveSetting("Miscellaneous", "FirstRun", "no");
   frame.show();

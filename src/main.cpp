@@ -5,9 +5,11 @@
 
 #include "core/Application.h"
 #include "core/Startup.h"
+#include "platform/DefaultBrowser.h"
 #include "platform/Platform.h"
 #include "ui/MDIForm1.h"
 #include "ui/QtPlatform.h"
+#include "ui/wizards/QtCheckedQuestions.h"
 
 int main(int argc, char** argv) {
   QApplication qapp(argc, argv);
@@ -28,13 +30,18 @@ int main(int argc, char** argv) {
   tessarine::QtClipboard clipboard;
   tessarine::QtImageInfo images;
   tessarine::SystemClock clock;
+  tessarine::XdgDefaultBrowser browser;
+  tessarine::QtCheckedQuestions questions;
   tessarine::MDIForm1 frame;
   messages.SetParent(&frame);
   dialogs.SetParent(&frame);
   colors.SetParent(&frame);
   shell.SetParent(&frame);
+  questions.SetParent(&frame);
   tessarine::Application app(
-      {frame, messages, store, dialogs, colors, shell, clipboard, images, clock}, folder);
+      {frame, messages, store, dialogs, colors, shell, clipboard, images, clock, questions,
+       &browser},
+      folder);
   app.defaultDocumentFolder = QDir::homePath().toStdString();
   frame.show();
   frame.Load(app, commandLine);

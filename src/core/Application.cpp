@@ -18,7 +18,7 @@ EditControl* Application::ActiveEdit() {
 }
 
 void Application::LoadSettings() {
-  tessarine::LoadSettings(settings, store, defaultDocumentFolder);
+  tessarine::LoadSettings(settings, store, defaultDocumentFolder, &messages);
 }
 
 }  // namespace tessarine

@@ -6,9 +6,12 @@
 #include <string>
 
 #include "core/DocumentList.h"
+#include "core/Editing.h"
 #include "core/FileState.h"
+#include "core/Preview.h"
 #include "platform/Platform.h"
 #include "settings/Settings.h"
+#include "wizards/WizardState.h"
 
 namespace tessarine {
 
@@ -43,6 +46,9 @@ class Application : public Platform {
   TextServiceState textServices;
   ColorizeState colorizing;
   FileState files;
+  EditingState editing;
+  ProgramState programs;
+  WizardState wizards;
 
   // The frame's active child: every command works on it at the moment it runs.
   DocumentWindow* ActiveDocument();

@@ -1,6 +1,7 @@
 #include "core/Documents.h"
 
 #include "core/Application.h"
+#include "core/Editing.h"
 #include "core/FileSave.h"
 #include "core/Styles.h"
 #include "platform/DocumentWindow.h"
@@ -49,6 +50,7 @@ void OnDocumentChanged(Application& app, DocumentWindow& window) {
   if (slot == 0) return;
   app.documents.State(slot).Changed = true;
   if (app.ActiveDocument() == &window) app.frame.SetSaveButtonEnabled(true);
+  UpdateStatusOnChange(app, window);
 }
 
 void OnDocumentActivated(Application& app, DocumentWindow& window) {

@@ -15,6 +15,13 @@ std::string LCase(std::string_view text) {
   return out;
 }
 
+std::string UCase(std::string_view text) {
+  std::string out(text);
+  for (char& c : out)
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+  return out;
+}
+
 long long InStrNoCase(long long start, std::string_view text, std::string_view needle) {
   if (start < 1) start = 1;
   const auto lower = [](char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c; };
@@ -41,6 +48,8 @@ void InsertAtCaret(Application& app, const std::string& text, bool keepCase) {
   if (!e) return;
   EmptyUndoBuffer(app);
   e->ReplaceSel(Cased(app, text, keepCase));
+  // The insertion itself is no step for Undo either: Undo stops here.
+  EmptyUndoBuffer(app);
   e->SetFocus();
   app.textServices.ReplaceSelectionOnce = false;
 }
@@ -67,6 +76,7 @@ void WrapSelection(Application& app, const std::string& startTag, const std::str
   } else {
     e->ReplaceSel(Cased(app, startTag, keepCase));
   }
+  EmptyUndoBuffer(app);
   ts.LastStartTag = startTag;
   ts.LastEndTag = endTag;
   ts.ReplaceSelectionOnce = false;
@@ -107,6 +117,7 @@ void InsertInHeadAndBody(Application& app, std::string& headText, std::string& b
     e->SetInsertionStyle(plain);
     e->ReplaceSel(headText);
   }
+  EmptyUndoBuffer(app);
 }
 
 }  // namespace tessarine

@@ -18,6 +18,7 @@ void InsertInHeadAndBody(Application& app, std::string& headText, std::string& b
 
 // ASCII lower case: bytes of other characters are left alone.
 std::string LCase(std::string_view text);
+std::string UCase(std::string_view text);
 // One-based position of `needle` at or after one-based `start`, ignoring ASCII case; 0 when
 // absent.
 long long InStrNoCase(long long start, std::string_view text, std::string_view needle);

@@ -10,6 +10,24 @@ std::string BufferEdit::TextRange(Pos start, Pos length) const {
   return text_.substr(static_cast<size_t>(start), static_cast<size_t>(length));
 }
 
+std::string_view BufferEdit::RangeView(Pos start, Pos length) const {
+  start = std::clamp<Pos>(start, 0, Length());
+  length = std::clamp<Pos>(length, 0, Length() - start);
+  return std::string_view(text_).substr(static_cast<size_t>(start), static_cast<size_t>(length));
+}
+
+Pos BufferEdit::LineFromPosition(Pos pos) const {
+  const auto end = static_cast<size_t>(std::clamp<Pos>(pos, 0, Length()));
+  Pos line = 0;
+  for (size_t i = 0; i < end; ++i) {
+    if (text_[i] == '\n') ++line;
+    // A CR ends a line unless an LF follows it, which then ends it.
+    else if (text_[i] == '\r' && (i + 1 >= text_.size() || text_[i + 1] != '\n'))
+      ++line;
+  }
+  return line;
+}
+
 void BufferEdit::SetText(std::string_view bytes) {
   text_.assign(bytes);
   styles_.assign(text_.size(), baseStyle_);

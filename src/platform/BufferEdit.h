@@ -15,6 +15,8 @@ class BufferEdit : public EditControl {
   std::string Text() const override { return text_; }
   std::string_view View() const override { return text_; }
   std::string TextRange(Pos start, Pos length) const override;
+  std::string_view RangeView(Pos start, Pos length) const override;
+  Pos LineFromPosition(Pos pos) const override;
   void SetText(std::string_view bytes) override;
 
   Pos SelStart() const override { return selStart_; }

@@ -22,6 +22,11 @@ class EditControl {
   // The text without a copy; valid until the next change.
   virtual std::string_view View() const = 0;
   virtual std::string TextRange(Pos start, Pos length) const = 0;
+  // A range in place, clamped, valid until the next change: searches read a large text
+  // without copying it.
+  virtual std::string_view RangeView(Pos start, Pos length) const = 0;
+  // Zero-based line of a position; CR LF, a lone CR and a lone LF each end a line.
+  virtual Pos LineFromPosition(Pos pos) const = 0;
   // Replaces the whole text (as a load does): styles become the base style, the caret goes
   // to 0, the undo history is emptied.
   virtual void SetText(std::string_view bytes) = 0;

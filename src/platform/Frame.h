@@ -30,6 +30,7 @@ class Frame {
   virtual void SetStatusText(const std::string& text) = 0;  // panel 1
   virtual std::string StatusText() const = 0;
   virtual void SetLengthPanel(std::int64_t length) = 0;  // "n bytes"
+  virtual void SetLinePanel(std::int64_t line) = 0;      // "Line: n", n counted from 1
   virtual void SetMousePointer(MousePointer pointer) = 0;
   virtual void SetToolbarButtonsEnabled(bool enabled) = 0;
   virtual void SetSaveButtonEnabled(bool enabled) = 0;

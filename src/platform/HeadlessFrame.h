@@ -42,6 +42,7 @@ class HeadlessFrame : public Frame {
   void SetStatusText(const std::string& text) override { statusText_ = text; }
   std::string StatusText() const override { return statusText_; }
   void SetLengthPanel(std::int64_t length) override { lengthPanel = length; }
+  void SetLinePanel(std::int64_t line) override { linePanel = line; }
   void SetMousePointer(MousePointer pointer) override { mousePointer = pointer; }
   void SetToolbarButtonsEnabled(bool enabled) override { toolbarButtonsEnabled = enabled; }
   void SetSaveButtonEnabled(bool enabled) override { saveButtonEnabled = enabled; }
@@ -56,6 +57,7 @@ class HeadlessFrame : public Frame {
   void Remove(HeadlessDocumentWindow* window);
 
   std::int64_t lengthPanel = 0;
+  std::int64_t linePanel = 1;
   MousePointer mousePointer = MousePointer::Default;
   bool toolbarButtonsEnabled = true;
   bool saveButtonEnabled = true;

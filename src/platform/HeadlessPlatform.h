@@ -1,6 +1,8 @@
 #pragma once
 // The whole platform without a display: for tests and the command line.
 
+#include "platform/DefaultBrowser.h"
+#include "platform/CheckedQuestions.h"
 #include "platform/Desktop.h"
 #include "platform/FileDialogs.h"
 #include "platform/HeadlessFrame.h"
@@ -20,9 +22,12 @@ struct HeadlessPlatform {
   MemoryClipboard clipboard;
   HeaderImageInfo images;
   FixedClock clock;
+  FixedDefaultBrowser defaultBrowser;
+  ScriptedCheckedQuestions checkedQuestions;
 
   Platform Get() {
-    return {frame, messages, store, fileDialogs, colorDialog, shell, clipboard, images, clock};
+    return {frame,  messages, store, fileDialogs,      colorDialog,     shell,
+            clipboard, images, clock, checkedQuestions, &defaultBrowser};
   }
 };
 

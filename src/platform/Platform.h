@@ -12,6 +12,8 @@ class Shell;
 class Clipboard;
 class ImageInfo;
 class Clock;
+class DefaultBrowser;
+class CheckedQuestions;
 
 struct Platform {
   Frame& frame;
@@ -23,6 +25,9 @@ struct Platform {
   Clipboard& clipboard;
   ImageInfo& images;
   Clock& clock;
+  CheckedQuestions& checkedQuestions;
+  // The desktop's default browser; when unset, asked through the XDG files.
+  DefaultBrowser* defaultBrowser = nullptr;
 };
 
 }  // namespace tessarine

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "platform/MessageBoxes.h"
 #include "platform/SettingsStore.h"
 
 namespace tessarine {
@@ -60,7 +61,62 @@ std::int32_t ColorOr(const std::string& stored, std::int32_t fallback) {
 
 }  // namespace
 
-void LoadSettings(SettingsVars& v, const SettingsStore& s, const std::string& programFolder) {
+bool StrictInt16(const std::string& text, std::int16_t& value) {
+  const auto b = text.find_first_not_of(" \t");
+  if (b == std::string::npos) return false;
+  const std::string t = text.substr(b, text.find_last_not_of(" \t") - b + 1);
+  double number = 0;
+  if (t.size() > 2 && t[0] == '&' && (t[1] == 'H' || t[1] == 'h' || t[1] == 'O' || t[1] == 'o')) {
+    const int base = (t[1] == 'H' || t[1] == 'h') ? 16 : 8;
+    if (t.size() > 2 + (base == 16 ? 4 : 6)) return false;
+    // strtol would take blanks and a sign here; the digits must follow at once.
+    if (!std::isalnum(static_cast<unsigned char>(t[2]))) return false;
+    char* end = nullptr;
+    const long n = std::strtol(t.c_str() + 2, &end, base);
+    if (*end != '\0') return false;
+    // Four hex digits are a 16-bit pattern: &HFFFF is -1.
+    number = n > 32767 && n <= 65535 ? static_cast<double>(n - 65536) : static_cast<double>(n);
+  } else {
+    size_t i = 0;
+    if (t[i] == '+' || t[i] == '-') ++i;
+    size_t digits = 0;
+    while (i < t.size() && std::isdigit(static_cast<unsigned char>(t[i]))) ++i, ++digits;
+    if (i < t.size() && t[i] == '.') {
+      ++i;
+      while (i < t.size() && std::isdigit(static_cast<unsigned char>(t[i]))) ++i, ++digits;
+    }
+    if (digits == 0) return false;
+    if (i < t.size() && (t[i] == 'e' || t[i] == 'E')) {
+      ++i;
+      if (i < t.size() && (t[i] == '+' || t[i] == '-')) ++i;
+      size_t exponent = 0;
+      while (i < t.size() && std::isdigit(static_cast<unsigned char>(t[i]))) ++i, ++exponent;
+      if (exponent == 0) return false;
+    }
+    if (i != t.size()) return false;
+    number = Val(t);
+  }
+  const double r = std::nearbyint(number);
+  if (r < -32768 || r > 32767) return false;
+  value = static_cast<std::int16_t>(r);
+  return true;
+}
+
+std::array<std::string, 5> ReadSearchKeywords(const SettingsStore& store) {
+  std::array<std::string, 5> words;
+  for (size_t i = 0; i < words.size(); ++i)
+    words[i] = store.GetSetting("Miscellaneous", "SearchKeyword" + std::to_string(i + 1), "");
+  return words;
+}
+
+void SaveSearchKeywords(SettingsStore& store, const std::vector<std::string>& list) {
+  for (size_t i = 0; i < 5; ++i)
+    store.SaveSetting("Miscellaneous", "SearchKeyword" + std::to_string(i + 1),
+                      i < list.size() ? list[i] : "");
+}
+
+void LoadSettings(SettingsVars& v, const SettingsStore& s, const std::string& programFolder,
+                  MessageBoxes* messages) {
   auto get = [&](const char* section, const char* key, const char* def) {
     return s.GetSetting(section, key, def);
   };
@@ -78,9 +134,22 @@ void LoadSettings(SettingsVars& v, const SettingsStore& s, const std::string& pr
   v.FTPClient = get("Apps", "FTPClient", "c:\\");
   v.PrinterProgram = get("Apps", "PrinterProgram", "c:\\");
 
-  // A stored text that is no number keeps the default here.
+  // Unlike the other numbers this one is converted whole: a text that is no number is
+  // reported and the default used, and the stored text is left for the user to mend.
   const std::string mru = get("Startup", "NumberOfMRUFiles", "4");
-  v.NumberOfMRUFiles = ColorOr(mru, -1) >= 0 ? ToInt16(Val(mru)) : 4;
+  std::int16_t files = 4;
+  if (StrictInt16(mru, files)) {
+    v.NumberOfMRUFiles = files;
+    v.RejectedNumberOfMRUFiles.clear();
+  } else {
+    v.NumberOfMRUFiles = 4;
+    if (messages && v.RejectedNumberOfMRUFiles != mru) {
+      messages->Show("The setting NumberOfMRUFiles (section Startup) holds \"" + mru +
+                         "\", which is not a number of recent files. The default of 4 is used.",
+                     MsgButtons::OK, MsgIcon::Exclamation, "Tessarine");
+      v.RejectedNumberOfMRUFiles = mru;
+    }
+  }
 
   const char* misc = "Miscellaneous";
   v.EnableAutotab = DefaultOrEmpty(get(misc, "EnableAutotab", "yes"), "yes", true);

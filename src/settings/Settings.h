@@ -4,9 +4,11 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace tessarine {
 
+class MessageBoxes;
 class SettingsStore;
 
 // Colours are 24-bit numbers with red in the low byte.
@@ -70,10 +72,27 @@ struct SettingsVars {
        NetscapeMenu = false, IEMenu = false, JavaMenu = false;
   // Favorite URLs: position 0 is never used.
   std::array<std::string, 21> FavoriteURLs;
+
+  // The stored NumberOfMRUFiles text last reported as no number, so that the loads of one
+  // start say it once.
+  std::string RejectedNumberOfMRUFiles;
 };
 
-// Fills `vars` from the store. `programFolder` is the default of the two folder keys.
-void LoadSettings(SettingsVars& vars, const SettingsStore& store, const std::string& programFolder);
+// Fills `vars` from the store. `programFolder` is the default of the two folder keys. A
+// NumberOfMRUFiles that is no number is reported through `messages` (when given) and the
+// default used; the stored text stays as it is.
+void LoadSettings(SettingsVars& vars, const SettingsStore& store, const std::string& programFolder,
+                  MessageBoxes* messages = nullptr);
+
+// The whole-text conversion to a 16-bit integer: blanks around a decimal number (with
+// fraction and exponent) or a &H / &O number, rounded half to even. False for anything
+// else, and for a number out of range.
+bool StrictInt16(const std::string& text, std::int16_t& value);
+
+// The find box's history, SearchKeyword1 to SearchKeyword5 in that order.
+std::array<std::string, 5> ReadSearchKeywords(const SettingsStore& store);
+// Writes the first five of `list`, "" for those it lacks.
+void SaveSearchKeywords(SettingsStore& store, const std::vector<std::string>& list);
 
 // The tolerant numeric parse: the longest leading number, 0 when there is none.
 double Val(const std::string& text);

@@ -1,17 +1,23 @@
 #include "ui/Form2.h"
 
 #include <QCloseEvent>
-
+#include <QCursor>
+#include <QDropEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
+#include <QMimeData>
+#include <QUrl>
 #include <algorithm>
 
 #include "core/Application.h"
 #include "core/ColorizeRun.h"
+#include "core/Editing.h"
 #include "core/Styles.h"
+#include "ui/MDIForm1.h"
 #include "ui/SciEdit.h"
 
 namespace tessarine {
@@ -31,7 +37,13 @@ Form2::Form2(Application& app, QWidget* parent)
   for (int margin = 0; margin < 5; ++margin)
     edit_->SendScintilla(QsciScintillaBase::SCI_SETMARGINWIDTHN, margin, 0L);
   edit_->SendScintilla(QsciScintillaBase::SCI_SETMARGINLEFT, 0UL, 60L / 15);
+  // Wrapped lines end 300 twips short of the control's right edge.
+  edit_->SendScintilla(QsciScintillaBase::SCI_SETMARGINRIGHT, 0UL, 300L / 15);
   edit_->installEventFilter(this);
+  edit_->viewport()->installEventFilter(this);
+  edit_->viewport()->setMouseTracking(true);
+  edit_->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(edit_, &QWidget::customContextMenuRequested, this, [this] { ShowEditMenu(); });
   ApplySettings();
 }
 
@@ -85,22 +97,124 @@ void Form2::closeEvent(QCloseEvent* event) {
     event->ignore();
 }
 
-bool Form2::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == edit_ && event->type() == QEvent::KeyPress) {
-    const auto* k = static_cast<QKeyEvent*>(event);
-    OnDocumentKeyPress(app_, k->key() == Qt::Key_Escape ? 27 : 0);
-    if (k->key() == Qt::Key_Less && !(k->modifiers() & Qt::ControlModifier))
-      OnLessThanKeyDown(app_, *this);
-    else if (k->key() == Qt::Key_QuoteDbl || k->key() == Qt::Key_Apostrophe)
-      OnQuoteKeyDown(app_, *this);
-  } else if (watched == edit_ && event->type() == QEvent::KeyRelease) {
-    const auto* k = static_cast<QKeyEvent*>(event);
-    if (k->key() == Qt::Key_Greater)
-      OnGreaterThanKeyUp(app_, *this);
-    else if (k->key() == Qt::Key_QuoteDbl || k->key() == Qt::Key_Apostrophe)
-      OnQuoteKeyUp(app_, *this);
+namespace {
+
+// The key codes of the editing rules for Qt's keys. "<" and ">" are the shifted comma and
+// period keys whatever the layout; other keys keep a code no rule looks at.
+int KeyCodeOf(const QKeyEvent& k, bool& shift) {
+  shift = k.modifiers() & Qt::ShiftModifier;
+  switch (k.key()) {
+    case Qt::Key_Backtab:
+      shift = true;
+      return kKeyTab;
+    case Qt::Key_Tab:
+      return kKeyTab;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return kKeyEnter;
+    case Qt::Key_Space:
+      return kKeySpace;
+    case Qt::Key_Less:
+      shift = true;
+      return kKeyLessComma;
+    case Qt::Key_Comma:
+      return kKeyLessComma;
+    case Qt::Key_Greater:
+      shift = true;
+      return kKeyGreaterPeriod;
+    case Qt::Key_Period:
+      return kKeyGreaterPeriod;
+    case Qt::Key_QuoteDbl:
+    case Qt::Key_Apostrophe:
+      return kKeyQuote;
+    default:
+      return -1;
   }
+}
+
+// The first local file a drag carries.
+QString DraggedFile(const QMimeData* data) {
+  if (!data || !data->hasUrls()) return {};
+  for (const QUrl& url : data->urls())
+    if (url.isLocalFile()) return url.toLocalFile();
+  return {};
+}
+
+}  // namespace
+
+bool Form2::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == edit_ && EditEvent(event)) return true;
+  if (watched == edit_->viewport() && ViewportEvent(event)) return true;
   return QWidget::eventFilter(watched, event);
+}
+
+bool Form2::EditEvent(QEvent* event) {
+  switch (event->type()) {
+    case QEvent::KeyPress: {
+      const auto* k = static_cast<QKeyEvent*>(event);
+      OnDocumentKeyPress(app_, k->key() == Qt::Key_Escape ? 27 : 0);
+      keysDown_.insert(k->key());
+      bool shift = false;
+      const int code = KeyCodeOf(*k, shift);
+      const bool ctrl = k->modifiers() & Qt::ControlModifier;
+      if (EditKeyDown(app_, *this, code, shift, ctrl)) return true;
+      // A tab replaces the selection, whatever it spans, as the rich-text control types it.
+      if (code == kKeyTab && !ctrl && !app_.editing.SuppressEditKeys) {
+        edit_->ReplaceSel("\t");
+        return true;
+      }
+      return false;
+    }
+    case QEvent::KeyRelease: {
+      const auto* k = static_cast<QKeyEvent*>(event);
+      if (k->isAutoRepeat() || !keysDown_.remove(k->key())) return false;
+      bool shift = false;
+      const int code = KeyCodeOf(*k, shift);
+      EditKeyUp(app_, *this, code, shift);
+      return false;
+    }
+    case QEvent::FocusIn:
+      app_.editing.SuppressEditKeys = false;
+      return false;
+    default:
+      return false;
+  }
+}
+
+bool Form2::ViewportEvent(QEvent* event) {
+  switch (event->type()) {
+    case QEvent::MouseMove:
+      OnEditMouseMove(app_);
+      return false;
+    case QEvent::MouseButtonRelease:
+      if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
+        UpdateLinePanel(app_, *this);
+      return false;
+    case QEvent::DragEnter:
+    case QEvent::DragMove: {
+      auto* drag = static_cast<QDropEvent*>(event);
+      if (DraggedFile(drag->mimeData()).isEmpty()) return false;
+      drag->acceptProposedAction();
+      return true;
+    }
+    case QEvent::Drop: {
+      auto* drop = static_cast<QDropEvent*>(event);
+      const QString file = DraggedFile(drop->mimeData());
+      if (file.isEmpty()) return false;
+      drop->acceptProposedAction();
+      // A name that makes no markup still hands the focus to the text.
+      if (!DropFile(app_, *this, file.toStdString())) edit_->setFocus();
+      return true;
+    }
+    default:
+      return false;
+  }
+}
+
+void Form2::ShowEditMenu() {
+  auto* frame = qobject_cast<MDIForm1*>(window());
+  QMenu* menu = frame ? frame->Menu("mnuEdit") : nullptr;
+  if (menu) menu->popup(QCursor::pos());
 }
 
 }  // namespace tessarine

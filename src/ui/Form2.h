@@ -1,6 +1,7 @@
 #pragma once
 // A document window: the edit control with the please-wait label behind it.
 
+#include <QSet>
 #include <QWidget>
 
 #include "platform/DocumentWindow.h"
@@ -37,10 +38,17 @@ class Form2 : public QWidget, public DocumentWindow {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  bool EditEvent(QEvent* event);
+  bool ViewportEvent(QEvent* event);
+  void ShowEditMenu();
+
   Application& app_;
   SciEdit* edit_;
   QLabel* lblPleaseWait_;
   QMdiSubWindow* sub_ = nullptr;
+  // Keys that went down in this control: a release without its press (Enter in the find
+  // box, which hands the focus here) is no key-up of ours.
+  QSet<int> keysDown_;
 };
 
 }  // namespace tessarine

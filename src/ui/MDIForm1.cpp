@@ -419,8 +419,6 @@ DocumentWindow* MDIForm1::CreateDocumentWindow() {
   form->SetSubWindow(sub);
   connect(sub, &QObject::destroyed, this,
           [this] { QTimer::singleShot(0, this, [this] { UpdateMenusForDocumentCount(); }); });
-  connect(&form->RichTextBox1(), &QsciScintilla::cursorPositionChanged, this,
-          [this](int line, int) { panels_[4]->setText(QString("Line: %1").arg(line + 1)); });
   sub->show();
   UpdateMenusForDocumentCount();
   for (const auto& f : onNewWindow_) f(*form);
@@ -475,6 +473,10 @@ std::string MDIForm1::StatusText() const {
 }
 void MDIForm1::SetLengthPanel(std::int64_t length) {
   panels_[3]->setText(QString::number(length) + " bytes");
+}
+
+void MDIForm1::SetLinePanel(std::int64_t line) {
+  panels_[4]->setText("Line: " + QString::number(line));
 }
 
 void MDIForm1::SetMousePointer(MousePointer pointer) {

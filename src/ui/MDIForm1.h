@@ -42,6 +42,7 @@ class MDIForm1 : public QMainWindow, public Frame {
   void SetStatusText(const std::string& text) override;
   std::string StatusText() const override;
   void SetLengthPanel(std::int64_t length) override;
+  void SetLinePanel(std::int64_t line) override;
   void SetMousePointer(MousePointer pointer) override;
   void SetToolbarButtonsEnabled(bool enabled) override;
   void SetSaveButtonEnabled(bool enabled) override;
@@ -76,6 +77,8 @@ class MDIForm1 : public QMainWindow, public Frame {
     onNewWindow_.push_back(std::move(f));
   }
   void UpdateMenusForDocumentCount();
+  // The open group of the shortcut bar, saved when the frame closes.
+  void SetShortcutBarGroup(const std::string& group) { shortcutBarGroup_ = group; }
 
  protected:
   void closeEvent(QCloseEvent* event) override;

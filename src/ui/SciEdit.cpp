@@ -121,6 +121,10 @@ std::string SciEdit::Text() const {
 }
 
 std::string SciEdit::TextRange(Pos start, Pos length) const {
+  return std::string(RangeView(start, length));
+}
+
+std::string_view SciEdit::RangeView(Pos start, Pos length) const {
   const Pos total = Length();
   start = std::clamp<Pos>(start, 0, total);
   length = std::clamp<Pos>(length, 0, total - start);
@@ -128,7 +132,11 @@ std::string SciEdit::TextRange(Pos start, Pos length) const {
   // The range pointer only moves the gap when the range straddles it.
   const auto* p = reinterpret_cast<const char*>(
       SendScintilla(SCI_GETRANGEPOINTER, static_cast<unsigned long>(start), length));
-  return std::string(p, static_cast<size_t>(length));
+  return std::string_view(p, static_cast<size_t>(length));
+}
+
+Pos SciEdit::LineFromPosition(Pos pos) const {
+  return Send(SCI_LINEFROMPOSITION, static_cast<unsigned long>(std::clamp<Pos>(pos, 0, Length())));
 }
 
 void SciEdit::SetText(std::string_view bytes) {
@@ -174,7 +182,8 @@ Pos SciEdit::SelLength() const {
 
 void SciEdit::SetSelStart(Pos start) {
   if (start < 0) return;
-  Send(SCI_GOTOPOS, static_cast<unsigned long>(std::min(start, Length())));
+  Send(SCI_SETEMPTYSELECTION, static_cast<unsigned long>(std::min(start, Length())));
+  ScrollCaretLater();
   ForgetInsertionStyleIfMoved();
 }
 
@@ -182,7 +191,8 @@ void SciEdit::SetSelLength(Pos length) {
   if (length < 0) return;
   const Pos start = SelStart();
   length = std::min(length, Length() - start);
-  Send(SCI_SETSEL, static_cast<unsigned long>(start), start + length);
+  Send(SCI_SETSELECTION, static_cast<unsigned long>(start + length), start);
+  ScrollCaretLater();
   ForgetInsertionStyleIfMoved();
 }
 
@@ -191,6 +201,7 @@ std::string SciEdit::SelText() const {
 }
 
 void SciEdit::ReplaceTarget(Pos start, Pos length, std::string_view bytes) {
+  PauseWrapInBursts();
   Send(SCI_SETTARGETRANGE, static_cast<unsigned long>(start), start + length);
   SendScintilla(SCI_REPLACETARGET, static_cast<uintptr_t>(bytes.size()),
                 bytes.empty() ? "" : bytes.data());
@@ -201,7 +212,8 @@ void SciEdit::ReplaceSel(std::string_view bytes) {
   if (length == 0 && bytes.empty()) return;
   ChangeBatch batch(*this);
   ReplaceTarget(start, length, bytes);
-  Send(SCI_GOTOPOS, static_cast<unsigned long>(start + static_cast<Pos>(bytes.size())));
+  Send(SCI_SETEMPTYSELECTION, static_cast<unsigned long>(start + static_cast<Pos>(bytes.size())));
+  ScrollCaretLater();
   ForgetInsertionStyleIfMoved();
 }
 
@@ -213,6 +225,47 @@ void SciEdit::ReplaceRange(Pos start, Pos length, std::string_view bytes) {
   ChangeBatch batch(*this);
   ReplaceTarget(start, length, bytes);
   ForgetInsertionStyleIfMoved();
+}
+
+void SciEdit::PauseWrapInBursts() {
+  // A wrapping widget lays out every changed line at once. A burst of edits made before
+  // the event loop runs again (Replace All) wraps once, when it is over.
+  constexpr int kBurst = 32;
+  if (burstEdits_ == 0) {
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+          burstEdits_ = 0;
+          if (!burstPaused_) return;
+          burstPaused_ = false;
+          if (wrapSuspended_ && !isHidden()) {
+            wrapSuspended_ = false;
+            Send(SCI_SETWRAPMODE, static_cast<unsigned long>(suspendedWrap_));
+          }
+          Send(SCI_SCROLLCARET);
+        },
+        Qt::QueuedConnection);
+  }
+  if (burstEdits_ < kBurst) ++burstEdits_;
+  if (burstEdits_ < kBurst || wrapSuspended_ || Send(SCI_GETWRAPMODE) == SC_WRAP_NONE) return;
+  suspendedWrap_ = Send(SCI_GETWRAPMODE);
+  Send(SCI_SETWRAPMODE, SC_WRAP_NONE);
+  wrapSuspended_ = true;
+  burstPaused_ = true;
+}
+
+void SciEdit::ScrollCaretLater() {
+  // Bringing the caret into view lays out its line; a loop of edits (Replace All) needs
+  // that once, when it is over, not once per edit.
+  if (scrollQueued_) return;
+  scrollQueued_ = true;
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        scrollQueued_ = false;
+        Send(SCI_SCROLLCARET);
+      },
+      Qt::QueuedConnection);
 }
 
 void SciEdit::SetInsertionStyle(Style style) {

@@ -26,6 +26,8 @@ class SciEdit : public QsciScintilla, public EditControl {
   Pos Length() const override;
   std::string Text() const override;
   std::string TextRange(Pos start, Pos length) const override;
+  std::string_view RangeView(Pos start, Pos length) const override;
+  Pos LineFromPosition(Pos pos) const override;
   void SetText(std::string_view bytes) override;
 
   Pos SelStart() const override;
@@ -75,6 +77,8 @@ class SciEdit : public QsciScintilla, public EditControl {
   Style InsertionStyleAt(Pos pos) const;
   void ReplaceTarget(Pos start, Pos length, std::string_view bytes);
   void ForgetInsertionStyleIfMoved();
+  void ScrollCaretLater();
+  void PauseWrapInBursts();
 
   Style baseStyle_ = 0;
   // While hidden (a colouring pass) the widget's wrap mode waits here.
@@ -88,6 +92,9 @@ class SciEdit : public QsciScintilla, public EditControl {
   int batchDepth_ = 0;
   bool changePending_ = false;
   bool finishQueued_ = false;
+  bool scrollQueued_ = false;
+  int burstEdits_ = 0;
+  bool burstPaused_ = false;
   mutable bool pendingInsertion_ = false;
   Pos pendingPos_ = 0;
   Pos pendingLength_ = 0;

@@ -1,53 +1,245 @@
+// The Insert and Format menus, the tag buttons of the toolbars and the shortcut bar.
+
+#include <Qsci/qscicommand.h>
+#include <Qsci/qscicommandset.h>
+
 #include <QAction>
 #include <QMenu>
+#include <QSignalBlocker>
+#include <QTabWidget>
+#include <QToolBar>
+#include <QToolButton>
 
 #include "core/Application.h"
+#include "core/TagCommands.h"
 #include "core/TextServices.h"
-#include "platform/EditControl.h"
+#include "platform/SettingsStore.h"
+#include "settings/Settings.h"
 #include "ui/Commands.h"
+#include "ui/Form2.h"
 #include "ui/MDIForm1.h"
+#include "ui/SciEdit.h"
+#include "ui/wizards/DateTimeDialog.h"
+#include "ui/wizards/FormatCharDialog.h"
+#include "ui/wizards/HorizLineDialog.h"
+#include "ui/wizards/MetatagsDialog.h"
+#include "ui/wizards/SSListBar.h"
+#include "ui/wizards/ScriptTagsDialog.h"
+#include "ui/wizards/VowelsDialog.h"
+#include "wizards/DateTime.h"
+#include "wizards/FormatChar.h"
+#include "wizards/Metatags.h"
+#include "wizards/frmHorizLine.h"
+#include "wizards/frmScriptTags.h"
 
 namespace tessarine {
 
 namespace {
 
-struct PhysicalStyle {
-  const char* caption;
-  const char* start;
-  const char* end;
-};
-const PhysicalStyle kPhysicalStyles[] = {
-    {"&Bold - <B>", "<B>", "</B>"},
-    {"&Italic - <I>", "<I>", "</I>"},
-    {"Stri&kethrough - <S>", "<S>", "</S>"},
-    {"&Subscript - <SUB>", "<SUB>", "</SUB>"},
-    {"Su&perscript - <SUP>", "<SUP>", "</SUP>"},
-    {"&Typewriter Text - <TT>", "<TT>", "</TT>"},
-    {"&Underline - <U>", "<U>", "</U>"},
-};
-
-// A format button wraps the selection and hands the focus back to the text.
-void FormatButton(MDIForm1& frame, const char* start, const char* end) {
+// Shows the dialog a command asked for, and finishes what follows it.
+void ShowTagDialog(MDIForm1& frame, const std::string& name) {
   Application* app = frame.App();
-  if (!app) return;
-  WrapSelection(*app, start, end, false);
-  if (EditControl* e = app->ActiveEdit()) e->SetFocus();
+  if (!app || name.empty()) return;
+  if (name == "FormatChar") {
+    ui::FormatChar(*app, &frame).exec();
+  } else if (name == "frmHorizLine") {
+    ui::frmHorizLine(*app, &frame).exec();
+    mnuHR_Finish(*app);
+  } else if (name == "frmScriptTags") {
+    ui::frmScriptTags(*app, &frame).exec();
+  } else if (name == "Vowels") {
+    ui::Vowels(*app, &frame).exec();
+  } else if (name == "DateTime") {
+    ui::DateTime(*app, &frame).exec();
+  } else if (name == "Metatags") {
+    WizardState& w = app->wizards;
+    if (ui::Metatags(*app, &frame).exec() != QDialog::Accepted) return;
+    std::string head = w.MetaDescription + w.MetaKeywords + w.MetaEffects, body;
+    // The last line end is the head's own.
+    if (head.size() >= 2) head.resize(head.size() - 2);
+    if (!head.empty()) InsertInHeadAndBody(*app, head, body);
+  }
+}
+
+// Entries whose dialogs come later: present, dimmed.
+void AddLater(MDIForm1& frame, QMenu* menu, const char* name, const char* caption) {
+  QAction* a = frame.AddCommand(menu, name, caption, false, [] {});
+  a->setEnabled(false);
+}
+
+QMenu* SubMenu(QMenu* parent, const char* name, const char* caption) {
+  QMenu* m = parent->addMenu(caption);
+  m->setObjectName(name);
+  m->menuAction()->setObjectName(name);
+  return m;
+}
+
+void AddArray(MDIForm1& frame, QMenu* menu, const std::string& arrayName, int from = -1) {
+  MDIForm1* f = &frame;
+  for (const TagMenuArray& a : TagMenuArrays()) {
+    if (a.name != arrayName) continue;
+    for (std::size_t i = 0; i < a.captions.size(); ++i) {
+      const int index = a.firstIndex + static_cast<int>(i);
+      if (index < from) continue;
+      if (a.captions[i].empty()) {
+        menu->addSeparator();
+        continue;
+      }
+      const QString name = QString::fromStdString(a.name) + QString::number(index);
+      frame.AddCommand(menu, name, QString::fromStdString(a.captions[i]), true,
+                       [f, arrayName, index] {
+                         if (f->App()) RunTagMenu(*f->App(), arrayName, index);
+                       });
+    }
+  }
+}
+
+void BuildFormatMenu(MDIForm1& frame) {
+  MDIForm1* f = &frame;
+  QMenu* format = frame.Menu("mnuFormat");
+  frame.AddCommand(format, "mnuFont", "&Font...", true, [f] { ShowTagDialog(*f, "FormatChar"); });
+  AddArray(frame, SubMenu(format, "mnuPhysicalStylesMain", "&Physical Styles"),
+           "mnuPhysicalStyles");
+  AddArray(frame, SubMenu(format, "mnuLogicalStylesMain", "&Logical Styles"), "mnuLogicalStyles");
+  AddArray(frame, SubMenu(format, "mnuHeadings", "&Headings"), "mnuHeadingsSub");
+  QMenu* paragraph = SubMenu(format, "mnuParagraph", "P&aragraph");
+  AddArray(frame, SubMenu(paragraph, "mnuParagraphSub0", "&Align"), "mnuPAlignSub");
+  AddArray(frame, paragraph, "mnuParagraphSub", 1);
+  QMenu* other = SubMenu(format, "mnuOtherHTML", "&Other HTML tags");
+  AddArray(frame, SubMenu(other, "mnuOtherHTMLSub0", "&Structure Tags"), "mnuStructureTagsSub");
+  AddArray(frame, other, "mnuOtherHTMLSub", 1);
+
+  frame.Command("mnuPhysicalStyles0")->setShortcut(QKeySequence("Ctrl+B"));
+  frame.Command("mnuPhysicalStyles1")->setShortcut(QKeySequence("Ctrl+I"));
+  frame.Command("mnuPhysicalStyles6")->setShortcut(QKeySequence("Ctrl+U"));
+  frame.Command("mnuOtherHTMLSub1")->setShortcut(QKeySequence("Ctrl+K"));
+}
+
+void BuildInsertMenu(MDIForm1& frame) {
+  MDIForm1* f = &frame;
+  auto run = [f](const char* name) {
+    return [f, name] {
+      if (f->App()) RunInsertCommand(*f->App(), name);
+    };
+  };
+  QMenu* insert = frame.Menu("mnuInsert");
+  AddLater(frame, insert, "mnuHypertext", "&Hyperlink...");
+  AddLater(frame, insert, "mnuAnchor", "&Anchor...");
+  AddLater(frame, insert, "mnuEmailLink", "E-&mail Link...");
+  AddLater(frame, insert, "Graphics", "&Image...");
+  AddLater(frame, insert, "mnuImageMap", "Image &Map...");
+  insert->addSeparator();
+  frame
+      .AddCommand(insert, "mnuHR", "Hori&zontal Line", true,
+                  [f] {
+                    if (f->App()) ShowTagDialog(*f, mnuHR(*f->App()));
+                  })
+      ->setShortcut(QKeySequence("Ctrl+H"));
+  frame.AddCommand(insert, "mnuSpecialCharacters", "&Special Characters...", true,
+                   [f] { ShowTagDialog(*f, "Vowels"); });
+  frame.AddCommand(insert, "mnuDateTime", "&Date/Time...", true,
+                   [f] { ShowTagDialog(*f, "DateTime"); });
+  frame.AddCommand(insert, "mnuMetaTags", "M&eta Tags...", true,
+                   [f] { ShowTagDialog(*f, "Metatags"); });
+  frame.AddCommand(insert, "mnuListItem", "List I&tem - <LI>", true, run("mnuListItem"));
+  insert->addSeparator();
+  QMenu* table = SubMenu(insert, "mnuTable", "&Table");
+  frame.AddCommand(table, "mnuTableTable", "&Table - <TABLE>", true, run("mnuTableTable"));
+  frame.AddCommand(table, "mnuTableRow", "Table &Row - <TR>", true, run("mnuTableRow"));
+  frame.AddCommand(table, "mnuTableData", "Table &Data - <TD>", true, run("mnuTableData"));
+  frame.AddCommand(table, "mnuTableHeader", "Table &Header - <TH>", true, run("mnuTableHeader"));
+  AddLater(frame, insert, "mnuTableMaker", "Table &Wizard...");
+  AddLater(frame, insert, "mnuForm", "&Form Wizard...");
+  AddLater(frame, insert, "mnuFrameMaker", "F&rame Wizard...");
+  AddLater(frame, insert, "mnuCSSMain", "St&yle Sheets...");
+  insert->addSeparator();
+  QMenu* scripting = SubMenu(insert, "mnuScriptingMain", "Scri&pting");
+  frame.AddCommand(scripting, "mnuScriptTags", "&Script Tags...", true,
+                   [f] { ShowTagDialog(*f, "frmScriptTags"); });
+  AddLater(frame, insert, "mnuJavaApplet", "&Java Applet...");
+  AddLater(frame, insert, "mnuembed", "Em&bedded Media...");
+  AddLater(frame, insert, "mnuSpecialEffectsMain", "Special Effe&cts...");
+
+  frame.AddCommand(frame.Menu("mnuEdit"), "mnuRepeat", "Repeat &Last Command", true, [f] {
+    if (f->App()) mnuRepeat(*f->App());
+  });
+}
+
+void BuildButtons(MDIForm1& frame) {
+  MDIForm1* f = &frame;
+  for (const char* key : {"Bold", "Italic", "Underline", "Format", "Align Left", "Align Center",
+                          "Align Right", "Justify", "Indent", "BR", "HR", "Comment"})
+    frame.BindButton("tbrFormat", key, [f, key] {
+      if (f->App()) ShowTagDialog(*f, tbrFormatClick(*f->App(), key));
+    });
+
+  // The line break's drop-down: breaks that clear the margins.
+  auto* brMenu = new QMenu(f);
+  brMenu->setObjectName("tbrFormatBRMenu");
+  const std::pair<const char*, const char*> clears[] = {
+      {"BRClearLeft", "Clear=Left"}, {"BRClearRight", "Clear=Right"}, {"BRClearAll", "Clear=All"}};
+  for (const auto& [key, caption] : clears) {
+    QAction* a = brMenu->addAction(caption);
+    a->setObjectName(key);
+    QObject::connect(a, &QAction::triggered, f, [f, key = key] {
+      if (f->App()) tbrBRMenuClick(*f->App(), key);
+    });
+  }
+  if (QAction* br = frame.Button("tbrFormat", "BR")) {
+    br->setMenu(brMenu);
+    if (auto* b = qobject_cast<QToolButton*>(frame.Toolbar("tbrFormat")->widgetForAction(br)))
+      b->setPopupMode(QToolButton::MenuButtonPopup);
+  }
+
+  frame.BindButton("tbrInsert", "Special Characters", [f] { ShowTagDialog(*f, "Vowels"); });
+  frame.BindButton("tbrTools", "Color Picker", [f] {
+    if (f->App()) ColorPickerClick(*f->App());
+  });
+}
+
+void BuildShortcutBar(MDIForm1& frame) {
+  MDIForm1* f = &frame;
+  auto* bar = new ui::SSListBar;
+  frame.SidePanel()->addTab(bar, "Shortcuts");
+  bar->OnItemClick([f](const std::string& key) {
+    if (f->App()) ShowTagDialog(*f, ShortcutBarClick(*f->App(), key));
+  });
+  MemorySettingsStore none;
+  bar->SetGroups(ShortcutBarGroups(none));
+  frame.OnSettingsLoaded([f, bar] {
+    SettingsStore& store = f->App()->store;
+    const QSignalBlocker quiet(bar);  // only the user's choice of group is remembered
+    bar->SetGroups(ShortcutBarGroups(store));
+    const int group =
+        static_cast<int>(Val(store.GetSetting("Miscellaneous", "DefaultShortcutBarGroup", "")));
+    if (group >= 1 && group <= bar->count()) bar->setCurrentIndex(group - 1);
+  });
+  QObject::connect(bar, &QToolBox::currentChanged, f,
+                   [f](int index) { f->SetShortcutBarGroup(std::to_string(index + 1)); });
+}
+
+// The edit control would claim some of the tag shortcuts for its own commands (Ctrl+U
+// lower-cases the selection): the menu's meaning wins.
+void FreeTagShortcuts(Form2& form) {
+  QsciCommandSet* commands = form.RichTextBox1().standardCommands();
+  for (QKeyCombination k : {Qt::CTRL | Qt::Key_B, Qt::CTRL | Qt::Key_I, Qt::CTRL | Qt::Key_U,
+                            Qt::CTRL | Qt::Key_K, Qt::CTRL | Qt::Key_H}) {
+    const int key = k.toCombined();
+    while (QsciCommand* c = commands->boundTo(key)) {
+      if (c->key() == key) c->setKey(0);
+      if (c->alternateKey() == key) c->setAlternateKey(0);
+    }
+  }
 }
 
 }  // namespace
 
 void BuildTagCommands(MDIForm1& frame) {
-  MDIForm1* f = &frame;
-  QMenu* physical = frame.Menu("mnuFormat")->addMenu("&Physical Styles");
-  for (int i = 0; i < 7; ++i) {
-    const PhysicalStyle& s = kPhysicalStyles[i];
-    frame.AddCommand(physical, QString("mnuPhysicalStyles%1").arg(i), s.caption, true, [f, s] {
-      if (f->App()) WrapSelection(*f->App(), s.start, s.end, false);
-    });
-  }
-  frame.BindButton("tbrFormat", "Bold", [f] { FormatButton(*f, "<B>", "</B>"); });
-  frame.BindButton("tbrFormat", "Italic", [f] { FormatButton(*f, "<I>", "</I>"); });
-  frame.BindButton("tbrFormat", "Underline", [f] { FormatButton(*f, "<U>", "</U>"); });
+  BuildFormatMenu(frame);
+  BuildInsertMenu(frame);
+  BuildButtons(frame);
+  BuildShortcutBar(frame);
+  frame.OnNewDocumentWindow(FreeTagShortcuts);
 }
 
 }  // namespace tessarine

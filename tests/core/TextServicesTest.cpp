@@ -97,26 +97,26 @@ TEST_F(TextServices, InsertAtCaretLowerCasesTheWholeStringUnlessKeepCase) {
   EXPECT_EQ(edit->Text(), "[Mixed <BR><HR>Ab]");
 }
 
-TEST_F(TextServices, TypingBeforeAnInsertionCannotBeUndone) {
+TEST_F(TextServices, NeitherAnInsertionNorTypingBeforeItCanBeUndone) {
   Open("", true);
   edit->Type("abc");
   InsertAtCaret(t.app, "<BR>", false);
-  edit->Undo();
-  EXPECT_EQ(edit->Text(), "abc");
   EXPECT_FALSE(edit->CanUndo());
+  edit->Undo();
+  EXPECT_EQ(edit->Text(), "abc<BR>");
 
   edit->Type("d");
   edit->Select(0, 4);
   WrapSelection(t.app, "<B>", "</B>", false);
   edit->Undo();
-  edit->Undo();
-  EXPECT_EQ(edit->Text(), "abcd");
+  EXPECT_EQ(edit->Text(), "<B>abc<</B>BR>d");
 
+  edit->SetSelStart(edit->Length());
   edit->Type("e");
   std::string head = "<BASE>", body;
   InsertInHeadAndBody(t.app, head, body);
-  while (edit->CanUndo()) edit->Undo();
-  EXPECT_NE(edit->Text().find("abcde"), std::string::npos);
+  EXPECT_FALSE(edit->CanUndo());
+  EXPECT_NE(edit->Text().find("BR>de"), std::string::npos);
 }
 
 const std::string kPage =

@@ -20,31 +20,6 @@ struct LoadSettingsTest : ::testing::Test {
   }
 };
 
-TEST_F(LoadSettingsTest, AnEmptyStoreGivesTheDefaults) {
-  const SettingsVars& v = Load();
-  EXPECT_TRUE(v.TagCaseUpper);
-  EXPECT_EQ(v.NumberOfMRUFiles, 4);
-  EXPECT_EQ(v.AutoSaveMinutes, 0);
-  EXPECT_EQ(v.MenuSystem, "");
-  EXPECT_EQ(v.Colors.tagColor, 0x3200FF);
-  EXPECT_EQ(v.Colors.tableColor, 0x2AA000);
-  EXPECT_EQ(v.Colors.quoteColor, 0xC08000);
-  EXPECT_EQ(v.Colors.commentColor, 0xA0A0A0);
-  EXPECT_EQ(v.Colors.aspColor, 0xFF00FF);
-  EXPECT_EQ(v.DocumentFontName, "MS Sans Serif");
-  EXPECT_EQ(v.DocumentFontSize, 10);
-  EXPECT_EQ(v.HTMLTagFont, "MS Sans Serif");
-  EXPECT_EQ(v.WorkingDirectory, "/opt/tessarine");
-  EXPECT_FALSE(v.Bold);
-  EXPECT_TRUE(v.StartNewDoc);
-  EXPECT_FALSE(v.OpenMRUDoc);
-  EXPECT_FALSE(v.AlignFileListLeft);
-  EXPECT_FALSE(v.RTFCascaded);
-  EXPECT_TRUE(v.WordWrap);
-  EXPECT_TRUE(v.Flags.ColorTags);
-  EXPECT_FALSE(v.Flags.CommentTagItalic);
-}
-
 TEST_F(LoadSettingsTest, DefaultOrEmptyFlagsFlipOnAnyOtherWordExactly) {
   struct Case {
     const char* section;

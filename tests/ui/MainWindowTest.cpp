@@ -47,7 +47,7 @@ class MainWindowTest : public ::testing::Test {
     frame = std::make_unique<MDIForm1>();
     app = std::make_unique<Application>(
         Platform{*frame, messages, store, dialogs, headless.colorDialog, headless.shell,
-                 headless.clipboard, headless.images, headless.clock},
+                 headless.clipboard, headless.images, headless.clock, headless.checkedQuestions},
         dir.path().toStdString());
     frame->show();
     frame->Load(*app, commandLine);

@@ -1,0 +1,30 @@
+#pragma once
+// The meta tags dialog: description, keywords, and a refresh for a splash page.
+
+#include <string>
+
+#include "wizards/WizardCheck.h"
+
+namespace tessarine {
+
+class Application;
+
+struct Metatags {
+  std::string Text1;    // description
+  std::string Text2;    // keywords
+  bool Check1 = false;  // splash screen
+  std::string Text3;    // seconds
+  std::string Text4;    // URL of the second page
+
+  CheckResult Validate() const;
+  struct Texts {
+    std::string description, keywords, effects;
+  };
+  Texts Build(bool tagCaseUpper) const;
+};
+
+// OK: fills MetaDescription, MetaKeywords and MetaEffects. On a failed check it shows the
+// message and returns it; the dialog stays open.
+CheckResult Metatags_OK(Application& app, const Metatags& form);
+
+}  // namespace tessarine
