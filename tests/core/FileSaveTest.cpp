@@ -152,6 +152,7 @@ TEST(SaveFile, AReadOnlyFileIsReportedAndTheDocumentStaysChanged) {
   int status = 0;
   ASSERT_EQ(::waitpid(child, &status, 0), child);
   ASSERT_TRUE(WIFEXITED(status));
+  if (WEXITSTATUS(status) == 100) GTEST_SKIP() << "cannot give up root here";
   EXPECT_EQ(WEXITSTATUS(status), 0);
   EXPECT_EQ(ReadAll(path), "read only");
   EXPECT_EQ(Names(dir.path()), std::vector<std::string>{"ro.html"});
