@@ -7,6 +7,7 @@
 
 #include "core/DocumentList.h"
 #include "core/Editing.h"
+#include "core/FileState.h"
 #include "core/Preview.h"
 #include "platform/Platform.h"
 #include "settings/Settings.h"
@@ -27,11 +28,6 @@ struct TextServiceState {
 struct ColorizeState {
   std::int16_t ColorizingInProgress = 0;
   bool CancelColorizing = false;
-};
-
-struct FileState {
-  std::string SaveDirectory;
-  std::int16_t LastFilterIndex = 0;
 };
 
 // The desktop services are reached as members: app.frame, app.messages and so on.

@@ -20,6 +20,10 @@ enum class SaveMode { Command, Prompt };
 // focusing the edit control.
 void SaveFile(Application& app, DocumentWindow& window, const std::string& path, SaveMode mode);
 
+// File, Save (an untitled caption asks for a name) and File, Save As; the toolbar's Save
+// button is File, Save.
+void FileSaveCommand(Application& app, bool saveAs);
+
 // Replaces `path` with `bytes` through a temporary file beside it, so a failure never
 // leaves a half-written target; the target's permissions are kept and a symbolic link is
 // written through. Returns 0 or the error number (75 access, 61 disk full, 53 not found,

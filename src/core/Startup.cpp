@@ -1,22 +1,16 @@
 #include "core/Startup.h"
 
-#include <sys/stat.h>
-
 #include <algorithm>
-#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include "core/Application.h"
-#include "core/ColorizeRun.h"
 #include "core/Documents.h"
-#include "core/Styles.h"
-#include "platform/DocumentWindow.h"
-#include "platform/EditControl.h"
+#include "core/NewDocument.h"
+#include "core/RecentFiles.h"
+#include "core/TextServices.h"
 #include "platform/Frame.h"
-#include "platform/MessageBoxes.h"
 #include "platform/SettingsStore.h"
 #include "settings/Settings.h"
 
@@ -124,73 +118,20 @@ std::string FileListPattern(const std::string& value) {
   return "*.xsl;*.xml;*.shtml;*.jpg;*.html;*.htm;*.gif;*.dtd;*.asp";
 }
 
-namespace {
-
-bool IsDocumentOpen(Application& app, const std::string& path) {
-  for (int i = 1; i <= app.documents.UpperBound(); ++i) {
-    const DocumentSlot& s = app.documents.Form(i);
-    if (!app.documents.State(i).Deleted && s.form && s.form->Caption() == path) return true;
-  }
-  return false;
-}
-
-// The number-to-string form: a leading blank where the sign would stand.
-std::string Str(int n) {
-  return (n < 0 ? "" : " ") + std::to_string(n);
-}
-
-}  // namespace
-
-bool OpenFile(Application& app, const std::string& path) {
-  struct stat st {};
-  if (::stat(path.c_str(), &st) != 0) {
-    app.messages.Show("Document doesn't exist", MsgButtons::OK, MsgIcon::None, app.title);
-    return false;
-  }
-  if (IsDocumentOpen(app, path)) return false;
-  std::ifstream in(path, std::ios::binary);
-  if (S_ISDIR(st.st_mode) || !in) {
-    const int number = S_ISDIR(st.st_mode) || errno == EACCES ? 75 : 53;
-    app.messages.Show(Str(number) + " Can't open file: " + path, MsgButtons::OK, MsgIcon::None,
-                      app.title);
-    return false;
-  }
-  std::ostringstream bytes;
-  bytes << in.rdbuf();
-  std::string text = std::move(bytes).str();
-  if (text.size() >= 2 && text.compare(text.size() - 2, 2, "\r\n") == 0)
-    text.resize(text.size() - 2);
-
-  DocumentWindow* window = NewDocumentWindow(app);
-  window->SetCaption(path);
-  const int slot = app.documents.SlotOf(window);
-  // Taken before the pass: its yields may close the window and reuse the slot.
-  const auto serial = app.documents.Form(slot).serial;
-  EditControl& edit = window->Edit();
-  edit.SetText(text);
-  if (app.settings.Flags.ColorTags) ChooseColorizer(app, *window, true);
-  if (app.documents.IsAlive(window, serial)) {
-    app.documents.State(slot).Changed = false;
-    app.frame.SetSaveButtonEnabled(false);
-    if (app.ActiveDocument() == window) app.frame.SetLengthPanel(edit.Length());
-    edit.SetVisible(true);
-  }
-  return true;
-}
-
 void OpenStartupDocuments(Application& app, const std::string& commandLine) {
+  app.files.SaveDirectory = app.settings.WorkingDirectory;
   if (!commandLine.empty()) {
+    // The whole command line is one path: no quotes stripped, no second file looked for.
     OpenFile(app, commandLine);
   } else if (app.settings.StartNewDoc) {
-    NewDocumentWindow(app);
+    NewDocument(app, "HTML");
     app.LoadSettings();
   } else if (app.settings.OpenMRUDoc) {
     const std::string recent = app.store.GetSetting("Startup", "RecentFile1", "Not Used");
-    std::string lower = recent;
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-                   [](char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c; });
-    if (lower != "not used") OpenFile(app, recent);
+    if (LCase(recent) != "not used") OpenFile(app, recent);
+    LoadRecentFiles(app);
   } else {
+    LoadRecentFiles(app);
     app.frame.SetToolbarButtonsEnabled(false);
   }
 }

@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "core/FileOpen.h"  // OpenFile, which the start and its callers use
+
 namespace tessarine {
 
 class Application;
@@ -43,8 +45,5 @@ std::string FileListPattern(const std::string& value);
 
 // Step 14: what the start opens. `commandLine` is the whole command line, one path.
 void OpenStartupDocuments(Application& app, const std::string& commandLine);
-
-// Opens one file in a new window; false when it was not opened.
-bool OpenFile(Application& app, const std::string& path);
 
 }  // namespace tessarine

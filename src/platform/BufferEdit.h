@@ -13,6 +13,7 @@ class BufferEdit : public EditControl {
  public:
   Pos Length() const override { return static_cast<Pos>(text_.size()); }
   std::string Text() const override { return text_; }
+  std::string_view View() const override { return text_; }
   std::string TextRange(Pos start, Pos length) const override;
   std::string_view RangeView(Pos start, Pos length) const override;
   Pos LineFromPosition(Pos pos) const override;

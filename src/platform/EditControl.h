@@ -19,6 +19,8 @@ class EditControl {
   // Text. Bytes in, bytes out: no line-end or code page conversion.
   virtual Pos Length() const = 0;
   virtual std::string Text() const = 0;
+  // The text without a copy; valid until the next change.
+  virtual std::string_view View() const = 0;
   virtual std::string TextRange(Pos start, Pos length) const = 0;
   // A range in place, clamped, valid until the next change: searches read a large text
   // without copying it.

@@ -16,6 +16,9 @@ struct FileDialogRequest {
   std::string fileName;
   bool save = false;
   bool confirmOverwrite = false;
+  // Several files may be chosen: the answer is then the folder and the names, each
+  // separated by a NUL character.
+  bool multiSelect = false;
 };
 
 struct FileDialogAnswer {

@@ -134,13 +134,22 @@ FileDialogAnswer QtFileDialogs::Show(const FileDialogRequest& r) {
   if (r.filterIndex >= 1 && r.filterIndex <= filters.size())
     dialog.selectNameFilter(filters[r.filterIndex - 1]);
   dialog.setAcceptMode(r.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-  dialog.setFileMode(r.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog.setFileMode(r.save          ? QFileDialog::AnyFile
+                     : r.multiSelect ? QFileDialog::ExistingFiles
+                                     : QFileDialog::ExistingFile);
   if (!r.confirmOverwrite) dialog.setOption(QFileDialog::DontConfirmOverwrite);
   if (!r.fileName.empty()) dialog.selectFile(Q(r.fileName));
   FileDialogAnswer a;
   a.filterIndex = r.filterIndex;
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return a;
-  a.path = S(dialog.selectedFiles().first());
+  const QStringList chosen = dialog.selectedFiles();
+  if (chosen.size() == 1) {
+    a.path = S(chosen.first());
+  } else {
+    // Several files: the folder, then each name, NUL-separated.
+    a.path = S(QFileInfo(chosen.first()).absolutePath());
+    for (const QString& f : chosen) a.path += '\0' + S(QFileInfo(f).fileName());
+  }
   a.filterIndex = static_cast<int>(filters.indexOf(dialog.selectedNameFilter())) + 1;
   return a;
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -95,6 +96,66 @@ TEST(WriteFileReplacing, ADiskFullLeavesTheOldFileIntact) {
   EXPECT_EQ(WEXITSTATUS(status), 61);
   EXPECT_EQ(ReadAll(path), "old text");
   EXPECT_EQ(Names(dir.path()), std::vector<std::string>{"page.html"});
+}
+
+TEST(WriteFileReplacing, AFullFileSystemIsDiskFullAndTheOldTextStays) {
+  TempDir dir;
+  const std::string mnt = dir / "small";
+  fs::create_directory(mnt);
+  if (::mount("tmpfs", mnt.c_str(), "tmpfs", 0, "size=64k") != 0)
+    GTEST_SKIP() << "cannot mount a small file system here";
+  struct Unmount {
+    std::string path;
+    ~Unmount() { ::umount(path.c_str()); }
+  } unmount{mnt};
+  const std::string path = mnt + "/page.html";
+  WriteAll(path, "old text");
+  EXPECT_EQ(WriteFileReplacing(path, std::string(256 * 1024, 'n'), "\r\n"), 61);
+  EXPECT_EQ(ReadAll(path), "old text");
+  EXPECT_EQ(Names(mnt), std::vector<std::string>{"page.html"});
+
+  // SaveFile shows it and goes on as if the file were written; the file itself is whole.
+  TestApp t;
+  auto& w = t.NewWindow(std::string(256 * 1024, 'x'));
+  w.Buffer().Type("y");
+  SaveFile(t.app, w, path, SaveMode::Command);
+  ASSERT_EQ(t.messages.shown().size(), 1u);
+  EXPECT_EQ(t.messages.shown()[0].text, "Error# 61: Disk full");
+  EXPECT_EQ(t.messages.shown()[0].icon, MsgIcon::Exclamation);
+  EXPECT_EQ(w.Caption(), path);
+  EXPECT_FALSE(t.Changed(w));
+  EXPECT_EQ(ReadAll(path), "old text");
+}
+
+TEST(SaveFile, AReadOnlyFileIsReportedAndTheDocumentStaysChanged) {
+  TempDir dir;
+  const std::string path = dir / "ro.html";
+  WriteAll(path, "read only");
+  ::chmod(path.c_str(), 0444);
+  ::chmod(dir.path().c_str(), 0777);
+  // Root may write anything: the check runs as an ordinary user.
+  const pid_t child = ::fork();
+  ASSERT_GE(child, 0);
+  if (child == 0) {
+    if (::getuid() == 0 && (::setgid(65534) != 0 || ::setuid(65534) != 0)) ::_exit(100);
+    TestApp t;
+    auto& w = t.NewWindow();
+    w.Buffer().Type("edited");
+    SaveFile(t.app, w, path, SaveMode::Command);
+    const bool ok = t.messages.shown().size() == 1 &&
+                    t.messages.shown()[0].text ==
+                        "Error# 75: Path/File access error\r\nRead-only file.  File not saved." &&
+                    t.Changed(w) && w.Caption() == "Untitled:1" &&
+                    !t.store.Has("Startup", "RecentFile1");
+    ::_exit(ok ? 0 : 1);
+  }
+  int status = 0;
+  ASSERT_EQ(::waitpid(child, &status, 0), child);
+  ASSERT_TRUE(WIFEXITED(status));
+  if (WEXITSTATUS(status) == 100) GTEST_SKIP() << "cannot give up root here";
+  EXPECT_EQ(WEXITSTATUS(status), 0);
+  EXPECT_EQ(ReadAll(path), "read only");
+  EXPECT_EQ(Names(dir.path()), std::vector<std::string>{"ro.html"});
 }
 
 // Runs `chattr` on a path; false when the file system or the user cannot.

@@ -121,11 +121,22 @@ TEST_F(StartupDocuments, TheCommandLineWinsOverBothSettings) {
 TEST_F(StartupDocuments, ANewDocumentWinsOverTheRecentFile) {
   Start("1", "1", "");
   EXPECT_EQ(Captions(), std::vector<std::string>{"Untitled:1"});
+  // The HTML skeleton, with the recent list shown by the new document.
+  EXPECT_EQ(t.frame.Windows()[0]->Buffer().Text().compare(0, 9, "<!DOCTYPE"), 0);
+  EXPECT_TRUE(t.app.files.recentMenu.visible[1]);
+}
+
+TEST_F(StartupDocuments, AMissingCommandLinePathIsReportedAndNothingOpens) {
+  Start("1", "1", dir / "gone.html");
+  EXPECT_TRUE(Captions().empty());
+  ASSERT_EQ(t.messages.shown().size(), 1u);
+  EXPECT_EQ(t.messages.shown()[0].text, "Document doesn't exist");
 }
 
 TEST_F(StartupDocuments, TheRecentFileOpensWhenAskedFor) {
   Start("0", "", "");  // an empty OpenMRUDoc counts as set
   EXPECT_EQ(Captions(), std::vector<std::string>{recent});
+  EXPECT_EQ(t.app.files.recentMenu.captions[1], recent);
 }
 
 TEST_F(StartupDocuments, AMissingRecentFileOpensNothingAndLeavesTheToolbars) {
@@ -146,54 +157,6 @@ TEST_F(StartupDocuments, NothingToOpenDimsTheToolbars) {
   EXPECT_TRUE(t.frame.Windows().empty());
   EXPECT_FALSE(t.frame.toolbarButtonsEnabled);
   EXPECT_TRUE(t.messages.shown().empty());
-}
-
-TEST(OpenFile, StripsOneTrailingLineEndAndColoursByKind) {
-  TestApp t;
-  TempDir dir;
-  const std::string text = "<B>x</B>\r\n# c\r\n";
-  for (const char* name : {"page.html", "tool.cgi", "TOOL.CGI"})
-    WriteAll(dir / name, text + "\r\n");
-
-  ASSERT_TRUE(OpenFile(t.app, dir / "page.html"));
-  auto* page = t.frame.Windows().back();
-  EXPECT_EQ(page->Caption(), dir / "page.html");
-  EXPECT_EQ(page->Buffer().Text(), text);
-  EXPECT_EQ(page->Buffer().StyleAt(0), MakeStyle(StyleKind::Tag));
-  EXPECT_FALSE(t.Changed(*page));
-  EXPECT_FALSE(t.frame.saveButtonEnabled);
-  EXPECT_TRUE(page->Buffer().IsVisible());
-
-  const Pos hash = static_cast<Pos>(text.find('#'));
-  ASSERT_TRUE(OpenFile(t.app, dir / "tool.cgi"));
-  EXPECT_EQ(t.frame.Windows().back()->Buffer().StyleAt(hash), MakeStyle(StyleKind::ScriptComment));
-  ASSERT_TRUE(OpenFile(t.app, dir / "TOOL.CGI"));  // exact comparison on opening
-  EXPECT_EQ(t.frame.Windows().back()->Buffer().StyleAt(0), MakeStyle(StyleKind::Tag));
-
-  // Already open: silently nothing.
-  EXPECT_FALSE(OpenFile(t.app, dir / "page.html"));
-  EXPECT_EQ(t.frame.Windows().size(), 3u);
-  EXPECT_TRUE(t.messages.shown().empty());
-}
-
-TEST(OpenFile, ColourTagsOffLeavesTheTextPlain) {
-  TestApp t;
-  TempDir dir;
-  WriteAll(dir / "a.htm", "<B>x</B>");
-  t.store.SaveSetting("ColoredTags", "ColorTags", "off");
-  t.app.LoadSettings();
-  ASSERT_TRUE(OpenFile(t.app, dir / "a.htm"));
-  EXPECT_EQ(t.frame.Windows().back()->Buffer().StyleAt(0), MakeStyle(StyleKind::Plain));
-  EXPECT_EQ(t.frame.Windows().back()->Buffer().Text(), "<B>x</B>");
-}
-
-TEST(OpenFile, AFolderCannotBeOpened) {
-  TestApp t;
-  TempDir dir;
-  EXPECT_FALSE(OpenFile(t.app, dir.path().string()));
-  ASSERT_EQ(t.messages.shown().size(), 1u);
-  EXPECT_EQ(t.messages.shown()[0].text, " 75 Can't open file: " + dir.path().string());
-  EXPECT_TRUE(t.frame.Windows().empty());
 }
 
 }  // namespace

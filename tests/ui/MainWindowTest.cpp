@@ -39,6 +39,9 @@ class MainWindowTest : public ::testing::Test {
   void SetUp() override {
     ASSERT_TRUE(dir.isValid());
     qputenv("XDG_DATA_HOME", (dir.path() + "/data").toUtf8());
+    // These tests type into empty documents, and New opens no page properties.
+    store.SaveSetting("Miscellaneous", "BlankNewDoc", "1");
+    store.SaveSetting("Miscellaneous", "ShowPageProps", "0");
   }
   void Start(const std::string& commandLine = "") {
     frame = std::make_unique<MDIForm1>();
@@ -195,7 +198,7 @@ TEST_F(MainWindowTest, DoubleClickOnTheClockInsertsDateAndTime) {
 
 TEST_F(MainWindowTest, TilingPlacesWindowsAboveOrBesideEachOther) {
   Start();
-  frame->Command("mnuNewFile")->trigger();
+  frame->Button("tbrFile", "New")->trigger();
   frame->Command("mnuWindowArrange1")->trigger();
   auto subs = frame->MdiArea()->subWindowList();
   ASSERT_EQ(subs.size(), 2);
@@ -208,14 +211,14 @@ TEST_F(MainWindowTest, TilingPlacesWindowsAboveOrBesideEachOther) {
 
 TEST_F(MainWindowTest, SlotsAreReusedLowestFirst) {
   Start();
-  frame->Command("mnuNewFile")->trigger();
-  frame->Command("mnuNewFile")->trigger();
+  frame->Button("tbrFile", "New")->trigger();
+  frame->Button("tbrFile", "New")->trigger();
   auto subs = frame->MdiArea()->subWindowList(QMdiArea::CreationOrder);
   ASSERT_EQ(subs.size(), 3);
   auto* first = qobject_cast<Form2*>(subs[0]->widget());
   ASSERT_TRUE(first->RequestClose());
   QApplication::processEvents();
-  frame->Command("mnuNewFile")->trigger();
+  frame->Button("tbrFile", "New")->trigger();
   EXPECT_EQ(Active()->Caption(), "Untitled:1");
 }
 
