@@ -92,7 +92,7 @@ TEST_F(EditWidget, EditMenuCommandsAndTheRightButton) {
   SciEdit& e = Document("cut me");
   e.Select(0, 4);
   frame->Command("cut")->trigger();
-  EXPECT_EQ(h.clipboard.Text(), "cut ");
+  EXPECT_EQ(headless.clipboard.Text(), "cut ");
   frame->Command("mnuSelectAll")->trigger();
   frame->Button("tbrFile", "Paste")->trigger();
   EXPECT_EQ(e.Text(), "cut ");
@@ -134,7 +134,7 @@ TEST_F(EditWidget, DroppedStyleSheetBecomesALink) {
   QApplication::sendEvent(e.viewport(), &drop);
   EXPECT_TRUE(drop.isAccepted());
   EXPECT_EQ(e.Text(), "x<link rel=\"StyleSheet\" href=\"css/site.css\">");
-  EXPECT_TRUE(h.checkedQuestions.asked().empty());
+  EXPECT_TRUE(headless.checkedQuestions.asked().empty());
 }
 
 TEST(SciEditLines, AgreesWithTheHeadlessControlOnLinesAndRanges) {

@@ -26,6 +26,7 @@
 #include "platform/SettingsStore.h"
 #include "ui/Form2.h"
 #include "ui/MDIForm1.h"
+#include "ui/WindowFixture.h"
 #include "ui/files/frmTemplates.h"
 #include "ui/files/frmXMLdoc.h"
 
@@ -39,11 +40,10 @@ std::string Slurp(const std::string& path) {
   return s.str();
 }
 
-class FileCommandsTest : public ::testing::Test {
+class FileCommandsTest : public WindowFixture {
  protected:
   void SetUp() override {
-    ASSERT_TRUE(dir.isValid());
-    qputenv("XDG_DATA_HOME", (dir.path() + "/data").toUtf8());
+    WindowFixture::SetUp();
     store.SaveSetting("Miscellaneous", "ShowPageProps", "0");
     std::tm t{};
     t.tm_year = 102;
@@ -53,26 +53,6 @@ class FileCommandsTest : public ::testing::Test {
     t.tm_min = 7;
     headless.clock.Set(t);
   }
-  void Start(const std::string& commandLine = "") {
-    frame = std::make_unique<MDIForm1>();
-    app = std::make_unique<Application>(
-        Platform{*frame, messages, store, dialogs, headless.colorDialog, headless.shell,
-                 headless.clipboard, headless.images, headless.clock, headless.checkedQuestions},
-        dir.path().toStdString());
-    frame->show();
-    frame->Load(*app, commandLine);
-    QApplication::processEvents();
-  }
-  void TearDown() override {
-    if (frame) {
-      for (int i = 1; i <= app->documents.UpperBound(); ++i)
-        app->documents.State(i).Changed = false;
-      frame->close();
-      QApplication::processEvents();
-    }
-  }
-  Form2* Active() { return dynamic_cast<Form2*>(frame->ActiveDocumentWindow()); }
-  std::string Path(const char* name) { return (dir.path() + "/" + name).toStdString(); }
   // Runs `f` on the modal dialog of type T once it is up.
   template <typename T>
   void WhenModal(std::function<void(T&)> f) {
@@ -82,14 +62,6 @@ class FileCommandsTest : public ::testing::Test {
       f(*d);
     });
   }
-
-  QTemporaryDir dir;
-  MemorySettingsStore store;
-  ScriptedMessageBoxes messages;
-  ScriptedFileDialogs dialogs;
-  HeadlessPlatform headless;
-  std::unique_ptr<MDIForm1> frame;
-  std::unique_ptr<Application> app;
 };
 
 TEST_F(FileCommandsTest, AnyBytesSurviveTheEditControlAndARecentEntryReopensTheFile) {

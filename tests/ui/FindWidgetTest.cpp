@@ -41,8 +41,8 @@ TEST_F(FindWidget, ReplaceAllFromTheDialogOverTheSelection) {
   Child<QPushButton>(dialog, "cmdReplaceAll")->click();
   // The search starts at the selection, which is the first match.
   EXPECT_EQ(e.Text(), "<p>new</p> new new");
-  ASSERT_EQ(h.messages.shown().size(), 1u);
-  EXPECT_EQ(h.messages.shown()[0].text,
+  ASSERT_EQ(messages.shown().size(), 1u);
+  EXPECT_EQ(messages.shown()[0].text,
             "Tessarine has completed searching the document.  A total of 3 replacements were "
             "made");
   EXPECT_FALSE(dialog->isVisible());
@@ -65,8 +65,8 @@ TEST_F(FindWidget, FindNextWithCaseAndFromTheMenu) {
   EXPECT_EQ(e.SelStart(), 15);
   frame->Command("mnuSFindNext")->trigger();
   EXPECT_EQ(e.SelStart(), 15);
-  ASSERT_EQ(h.messages.shown().size(), 1u);
-  EXPECT_EQ(h.messages.shown()[0].text, "Tessarine has finished searching the document.");
+  ASSERT_EQ(messages.shown().size(), 1u);
+  EXPECT_EQ(messages.shown()[0].text, "Tessarine has finished searching the document.");
 
   Child<QPushButton>(dialog, "cmdCancel")->click();
   EXPECT_FALSE(dialog->isVisible());
@@ -85,8 +85,8 @@ TEST_F(FindWidget, FindBoxSearchesAndRemembersFiveKeywords) {
   ASSERT_EQ(box->count(), 5);
   EXPECT_EQ(box->itemText(0), "TWO");
   EXPECT_EQ(box->itemText(4), "b");
-  EXPECT_EQ(h.store.GetSetting("Miscellaneous", "SearchKeyword1", ""), "TWO");
-  EXPECT_EQ(h.store.GetSetting("Miscellaneous", "SearchKeyword5", ""), "b");
+  EXPECT_EQ(store.GetSetting("Miscellaneous", "SearchKeyword1", ""), "TWO");
+  EXPECT_EQ(store.GetSetting("Miscellaneous", "SearchKeyword5", ""), "b");
   box->setEditText("two");
   emit box->lineEdit()->returnPressed();
   EXPECT_EQ(e.SelStart(), 14);

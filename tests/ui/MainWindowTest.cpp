@@ -22,6 +22,7 @@
 #include "platform/SettingsStore.h"
 #include "ui/Form2.h"
 #include "ui/MDIForm1.h"
+#include "ui/WindowFixture.h"
 #include "ui/SciEdit.h"
 
 namespace tessarine {
@@ -34,44 +35,14 @@ std::string Slurp(const std::string& path) {
   return s.str();
 }
 
-class MainWindowTest : public ::testing::Test {
+class MainWindowTest : public WindowFixture {
  protected:
   void SetUp() override {
-    ASSERT_TRUE(dir.isValid());
-    qputenv("XDG_DATA_HOME", (dir.path() + "/data").toUtf8());
+    WindowFixture::SetUp();
     // These tests type into empty documents, and New opens no page properties.
     store.SaveSetting("Miscellaneous", "BlankNewDoc", "1");
     store.SaveSetting("Miscellaneous", "ShowPageProps", "0");
   }
-  void Start(const std::string& commandLine = "") {
-    frame = std::make_unique<MDIForm1>();
-    app = std::make_unique<Application>(
-        Platform{*frame, messages, store, dialogs, headless.colorDialog, headless.shell,
-                 headless.clipboard, headless.images, headless.clock, headless.checkedQuestions},
-        dir.path().toStdString());
-    frame->show();
-    frame->Load(*app, commandLine);
-    QApplication::processEvents();
-  }
-  void TearDown() override {
-    if (frame) {
-      // Nothing left to ask about: close quietly.
-      for (int i = 1; i <= app->documents.UpperBound(); ++i)
-        app->documents.State(i).Changed = false;
-      frame->close();
-      QApplication::processEvents();
-    }
-  }
-  Form2* Active() { return dynamic_cast<Form2*>(frame->ActiveDocumentWindow()); }
-  std::string Path(const char* name) { return (dir.path() + "/" + name).toStdString(); }
-
-  QTemporaryDir dir;
-  MemorySettingsStore store;
-  ScriptedMessageBoxes messages;
-  ScriptedFileDialogs dialogs;
-  HeadlessPlatform headless;  // the services these tests do not watch
-  std::unique_ptr<MDIForm1> frame;
-  std::unique_ptr<Application> app;
 };
 
 TEST_F(MainWindowTest, FirstStartShowsUntitledOneWithTheFramesToolbars) {

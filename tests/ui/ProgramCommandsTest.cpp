@@ -24,6 +24,7 @@
 #include "support/SettingsChecks.h"
 #include "ui/Form2.h"
 #include "ui/MDIForm1.h"
+#include "ui/WindowFixture.h"
 #include "ui/Printing.h"
 #include "ui/QtPlatform.h"
 #include "ui/SciEdit.h"
@@ -61,30 +62,12 @@ TEST_F(QtStoreSettingsTest, ABadRecentFileCountIsReportedAndLeftInTheFile) {
   EXPECT_EQ(reread.GetSetting("Startup", "NumberOfMRUFiles", ""), "six");
 }
 
-class ProgramCommandsTest : public ::testing::Test {
+class ProgramCommandsTest : public WindowFixture {
  protected:
   void SetUp() override {
-    ASSERT_TRUE(dir.isValid());
-    qputenv("XDG_DATA_HOME", (dir.path() + "/data").toUtf8());
+    WindowFixture::SetUp();
+    watchedShell = &shell;
   }
-  void Start(const std::string& commandLine = "") {
-    frame = std::make_unique<MDIForm1>();
-    app = std::make_unique<Application>(
-        Platform{*frame, messages, store, dialogs, headless.colorDialog, shell, headless.clipboard,
-                 headless.images, headless.clock, headless.checkedQuestions,
-                 &headless.defaultBrowser},
-        dir.path().toStdString());
-    frame->show();
-    frame->Load(*app, commandLine);
-    QApplication::processEvents();
-  }
-  void TearDown() override {
-    if (!frame) return;
-    for (int i = 1; i <= app->documents.UpperBound(); ++i) app->documents.State(i).Changed = false;
-    frame->close();
-    QApplication::processEvents();
-  }
-  std::string Path(const char* name) { return (dir.path() + "/" + name).toStdString(); }
   void Write(const std::string& path, const std::string& bytes) {
     std::ofstream(path, std::ios::binary) << bytes;
   }
@@ -114,14 +97,7 @@ class ProgramCommandsTest : public ::testing::Test {
     });
   }
 
-  QTemporaryDir dir;
-  MemorySettingsStore store;
-  ScriptedMessageBoxes messages;
-  ScriptedFileDialogs dialogs;
   PosixShell shell;
-  HeadlessPlatform headless;
-  std::unique_ptr<MDIForm1> frame;
-  std::unique_ptr<Application> app;
   bool dialogShown = false;
 };
 

@@ -23,34 +23,21 @@
 #include "platform/HeadlessPlatform.h"
 #include "ui/Form2.h"
 #include "ui/MDIForm1.h"
+#include "ui/WindowFixture.h"
 #include "ui/SciEdit.h"
 #include "ui/wizards/SSListBar.h"
 
 namespace tessarine {
 namespace {
 
-class TagCommandsWidget : public ::testing::Test {
+class TagCommandsWidget : public WindowFixture {
  protected:
   void SetUp() override {
-    ASSERT_TRUE(dir.isValid());
-    qputenv("XDG_DATA_HOME", (dir.path() + "/data").toUtf8());
+    WindowFixture::SetUp();
     store.SaveSetting("Miscellaneous", "FirstRun", "no");
     store.SaveSetting("Miscellaneous", "DefaultShortcutBarGroup", "3");
-    frame = std::make_unique<MDIForm1>();
-    app = std::make_unique<Application>(
-        Platform{*frame, messages, store, headless.fileDialogs, headless.colorDialog,
-                 headless.shell, headless.clipboard, headless.images, headless.clock,
-                 headless.checkedQuestions},
-        dir.path().toStdString());
-    frame->show();
-    frame->Load(*app, "");
-    QApplication::processEvents();
+    Start();
     ASSERT_NE(app->ActiveEdit(), nullptr);
-  }
-  void TearDown() override {
-    for (int i = 1; i <= app->documents.UpperBound(); ++i) app->documents.State(i).Changed = false;
-    frame->close();
-    QApplication::processEvents();
   }
   EditControl& Edit() { return *app->ActiveEdit(); }
   void Text(const std::string& text, Pos selStart, Pos selLength) {
@@ -71,13 +58,6 @@ class TagCommandsWidget : public ::testing::Test {
     EXPECT_NE(w, nullptr) << name;
     return w;
   }
-
-  QTemporaryDir dir;
-  MemorySettingsStore store;
-  ScriptedMessageBoxes messages;
-  HeadlessPlatform headless;
-  std::unique_ptr<MDIForm1> frame;
-  std::unique_ptr<Application> app;
 };
 
 TEST_F(TagCommandsWidget, MenusButtonsAndShortcutBarRunTheirCommands) {
