@@ -11,6 +11,7 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QStringList>
 #include <QUrl>
 
@@ -28,9 +29,12 @@ QString KeyPath(const std::string& section, const std::string& key) {
 }
 }  // namespace
 
+// The file is found afresh each time: QSettings would keep the first XDG_CONFIG_HOME it saw.
 QtSettingsStore::QtSettingsStore()
-    : settings_(
-          new QSettings(QSettings::IniFormat, QSettings::UserScope, "Tessarine", "Tessarine")) {}
+    : settings_(new QSettings(
+          QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+              "/Tessarine/Tessarine.ini",
+          QSettings::IniFormat)) {}
 
 QtSettingsStore::~QtSettingsStore() {
   delete settings_;
