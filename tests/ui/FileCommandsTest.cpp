@@ -33,13 +33,6 @@
 namespace tessarine {
 namespace {
 
-std::string Slurp(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::ostringstream s;
-  s << in.rdbuf();
-  return s.str();
-}
-
 class FileCommandsTest : public WindowFixture {
  protected:
   void SetUp() override {

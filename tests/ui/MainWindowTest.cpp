@@ -28,13 +28,6 @@
 namespace tessarine {
 namespace {
 
-std::string Slurp(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::ostringstream s;
-  s << in.rdbuf();
-  return s.str();
-}
-
 class MainWindowTest : public WindowFixture {
  protected:
   void SetUp() override {

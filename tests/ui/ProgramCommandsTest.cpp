@@ -82,10 +82,7 @@ class ProgramCommandsTest : public WindowFixture {
   static std::string Recorded(const std::string& program) {
     const std::string log = program + ".args";
     for (int i = 0; i < 1000 && ::access(log.c_str(), F_OK) != 0; ++i) QThread::msleep(10);
-    std::ifstream in(log, std::ios::binary);
-    std::ostringstream s;
-    s << in.rdbuf();
-    return s.str();
+    return Slurp(log);
   }
   // Answers the next modal dialog from inside its own event loop; records its kind.
   void AnswerNextDialog(bool accept) {

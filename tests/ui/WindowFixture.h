@@ -6,7 +6,9 @@
 
 #include <QApplication>
 #include <QTemporaryDir>
+#include <fstream>
 #include <memory>
+#include <sstream>
 #include <string>
 
 #include "core/Application.h"
@@ -15,6 +17,13 @@
 #include "ui/MDIForm1.h"
 
 namespace tessarine {
+
+inline std::string Slurp(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::ostringstream s;
+  s << in.rdbuf();
+  return s.str();
+}
 
 class WindowFixture : public ::testing::Test {
  protected:
