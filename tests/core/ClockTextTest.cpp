@@ -2,19 +2,12 @@
 
 #include "core/ClockText.h"
 #include "core/DateFormat.h"
+#include "core/TestApp.h"
 
 namespace tessarine {
 namespace {
 
-std::tm At(int year, int month, int day, int hour, int minute) {
-  std::tm t{};
-  t.tm_year = year - 1900;
-  t.tm_mon = month - 1;
-  t.tm_mday = day;
-  t.tm_hour = hour;
-  t.tm_min = minute;
-  return t;
-}
+using testing::At;
 
 TEST(ClockText, DateThenTwoBlanksThenTwelveHourTime) {
   EXPECT_EQ(ClockInsertText(At(2026, 3, 7, 9, 5)), "March 07, 2026   9:05 AM");

@@ -13,16 +13,7 @@ namespace {
 using testing::TempDir;
 using testing::TestApp;
 using testing::WriteAll;
-
-std::tm At(int year, int month, int day, int hour, int minute) {
-  std::tm t{};
-  t.tm_year = year - 1900;
-  t.tm_mon = month - 1;
-  t.tm_mday = day;
-  t.tm_hour = hour;
-  t.tm_min = minute;
-  return t;
-}
+using testing::At;
 
 const char* const kDoctype =
     "<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.0 Transitional//EN\" "

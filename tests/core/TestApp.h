@@ -3,6 +3,7 @@
 
 #include <stdlib.h>
 
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -17,6 +18,17 @@
 #include "platform/SettingsStore.h"
 
 namespace tessarine::testing {
+
+// A local time for a fixed clock.
+inline std::tm At(int year, int month, int day, int hour, int minute) {
+  std::tm t{};
+  t.tm_year = year - 1900;
+  t.tm_mon = month - 1;
+  t.tm_mday = day;
+  t.tm_hour = hour;
+  t.tm_min = minute;
+  return t;
+}
 
 struct TestApp {
   HeadlessPlatform platform;
