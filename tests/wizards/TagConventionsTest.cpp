@@ -35,40 +35,27 @@ TEST(RelativePath, UntitledAndUnwalkableTargetsGiveTheBareName) {
 }
 
 TEST(ResolveRelativeLink, ParentsRootsAndPlainLinks) {
-  std::string link = "../img/a.gif", dir = "/site/docs/";
-  ResolveRelativeLink(link, dir, "/site/");
-  EXPECT_EQ(link, "img/a.gif");
-  EXPECT_EQ(dir, "/site/");
-
-  link = "../../x.htm";
-  dir = "/site/docs/deep/";
-  ResolveRelativeLink(link, dir, "/site/");
-  EXPECT_EQ(link, "x.htm");
-  EXPECT_EQ(dir, "/site/");
-
-  link = "/img/b.gif";
-  dir = "/site/docs/";
-  ResolveRelativeLink(link, dir, "/site/");
-  EXPECT_EQ(link, "img/b.gif");
-  EXPECT_EQ(dir, "/site/");
-
-  link = "/";
-  ResolveRelativeLink(link, dir, "/site/");
-  EXPECT_EQ(link, "/");
-  EXPECT_EQ(dir, "/site");
-
-  link = "page.htm";
-  dir = "/site/docs/";
-  ResolveRelativeLink(link, dir, "/site/");
-  EXPECT_EQ(link, "page.htm");
-  EXPECT_EQ(dir, "/site/docs/");
-
-  // Climbing above the top keeps the root.
-  link = "../../../x.htm";
-  dir = "/site/";
-  ResolveRelativeLink(link, dir, "/site/");
-  EXPECT_EQ(dir, "/");
-  EXPECT_EQ(link, "x.htm");
+  struct Case {
+    const char* link;
+    const char* dir;
+    const char* wantLink;
+    const char* wantDir;
+  };
+  const Case cases[] = {
+      {"../img/a.gif", "/site/docs/", "img/a.gif", "/site/"},
+      {"../../x.htm", "/site/docs/deep/", "x.htm", "/site/"},
+      {"/img/b.gif", "/site/docs/", "img/b.gif", "/site/"},
+      {"/", "/site/", "/", "/site"},
+      {"page.htm", "/site/docs/", "page.htm", "/site/docs/"},
+      // Climbing above the top keeps the root.
+      {"../../../x.htm", "/site/", "x.htm", "/"},
+  };
+  for (const Case& c : cases) {
+    std::string link = c.link, dir = c.dir;
+    ResolveRelativeLink(link, dir, "/site/");
+    EXPECT_EQ(link, c.wantLink) << c.link << " from " << c.dir;
+    EXPECT_EQ(dir, c.wantDir) << c.link << " from " << c.dir;
+  }
 }
 
 TEST(Colors, ColorToHexSwapsRedAndBlueWithItsZeroFill) {
