@@ -22,7 +22,7 @@
 #include "platform/DocumentWindow.h"
 #include "platform/EditControl.h"
 #include "platform/HeadlessPlatform.h"
-#include "ui/MDIForm1.h"
+#include "ui/MainWindow.h"
 
 namespace {
 
@@ -109,7 +109,7 @@ int main(int argc, char** argv) {
 
   // The editor: OpenFile into a document window of the main window, coloured.
   HeadlessPlatform headless;
-  MDIForm1 frame;
+  MainWindow frame;
   Application app({frame, headless.messages, headless.store, headless.fileDialogs,
                    headless.colorDialog, headless.shell, headless.clipboard, headless.images,
                    headless.clock, headless.checkedQuestions},

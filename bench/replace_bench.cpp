@@ -17,8 +17,8 @@
 #include "core/Application.h"
 #include "core/Find.h"
 #include "platform/HeadlessPlatform.h"
-#include "ui/Form2.h"
-#include "ui/MDIForm1.h"
+#include "ui/DocumentForm.h"
+#include "ui/MainWindow.h"
 #include "ui/SciEdit.h"
 
 namespace {
@@ -63,7 +63,7 @@ int main(int argc, char** argv) {
   QTemporaryDir dir;
   qputenv("XDG_DATA_HOME", (dir.path() + "/data").toUtf8());
   HeadlessPlatform h;
-  auto frame = std::make_unique<MDIForm1>();
+  auto frame = std::make_unique<MainWindow>();
   Application app(Platform{*frame, h.messages, h.store, h.fileDialogs, h.colorDialog, h.shell,
                            h.clipboard, h.images, h.clock, h.checkedQuestions, &h.defaultBrowser},
                   dir.path().toStdString());
@@ -71,12 +71,12 @@ int main(int argc, char** argv) {
   frame->show();
   frame->Load(app, "");
   QApplication::processEvents();
-  auto* form = dynamic_cast<Form2*>(frame->ActiveDocumentWindow());
+  auto* form = dynamic_cast<DocumentForm*>(frame->ActiveDocumentWindow());
   if (!form) {
     std::fprintf(stderr, "no document window\n");
     return 1;
   }
-  SciEdit& edit = form->RichTextBox1();
+  SciEdit& edit = form->Editor();
 
   if (qEnvironmentVariableIsSet("NOWRAP")) edit.SetWordWrap(false);
   std::printf("word wrap %s\n", edit.WordWrap() ? "on" : "off");
@@ -108,12 +108,25 @@ int main(int argc, char** argv) {
     app.editing.find.FindMatchCase = matchCase ? 1 : 0;
     app.editing.find.NewSearch = true;
     const auto t0 = Stopwatch::now();
-    cmdReplaceAll(app, {"needle", "thread", true, matchCase});
+    ReplaceAllAsOneStep(app, {"needle", "thread", true, matchCase});
     const double replaceMs = Ms(t0);
     const auto t1 = Stopwatch::now();
     QApplication::processEvents();  // the wrap and the scroll that were put off
     const double settleMs = Ms(t1);
     const bool same = edit.Text() == Slurp(out);
+    const std::string replaced = edit.Text();
+    // The whole run comes back in one undo step, and goes again in one redo.
+    const auto t2 = Stopwatch::now();
+    edit.Undo();
+    QApplication::processEvents();
+    const double undoMs = Ms(t2);
+    const bool undone = edit.Text() == page && !edit.CanUndo();
+    const auto t3 = Stopwatch::now();
+    edit.Redo();
+    QApplication::processEvents();
+    const double redoMs = Ms(t3);
+    const bool redone = edit.Text() == replaced;
+    allSame = allSame && undone && redone;
     allSame = allSame && same;
     const std::string message = h.messages.shown().empty() ? "" : h.messages.shown().back().text;
     std::printf("\n%s: %.2f MB, %d matches\n", matchCase ? "match case" : "ignore case",
@@ -129,6 +142,11 @@ int main(int argc, char** argv) {
     std::printf("  ratio Replace All / sed            %9.1f  (target <= 20): %s\n",
                 replaceMs / sedMs, replaceMs / sedMs <= 20 ? "met" : "NOT met");
     std::printf("  same text as sed: %s; message: %s\n", same ? "yes" : "NO", message.c_str());
+    std::printf(
+        "  one Undo of the whole run          %9.1f ms  (target < 1000): %s; byte for byte: %s\n",
+        undoMs, undoMs < 1000 ? "met" : "NOT met", undone ? "yes" : "NO");
+    std::printf("  one Redo                           %9.1f ms  same text again: %s\n", redoMs,
+                redone ? "yes" : "NO");
   }
   const std::string page = MakePage(true);
 

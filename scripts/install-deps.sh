@@ -4,7 +4,10 @@ set -euo pipefail
 pkgs=(build-essential cmake ninja-build ccache
       qt6-base-dev qt6-qpa-plugins libqscintilla2-qt6-dev
       libtidy-dev libhunspell-dev hunspell-en-us
-      libgtest-dev libbenchmark-dev)
+      libgtest-dev libbenchmark-dev
+      tango-icon-theme libqt6svg6 pkg-config
+      clang libclang-rt-14-dev
+      chromium python3)
 missing=()
 for p in "${pkgs[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")

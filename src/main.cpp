@@ -1,13 +1,14 @@
 // The editor: the main window over the logic, its whole command line one path.
 #include <QApplication>
 #include <QDir>
+#include <QIcon>
 #include <QStringList>
 
 #include "core/Application.h"
 #include "core/Startup.h"
 #include "platform/DefaultBrowser.h"
 #include "platform/Platform.h"
-#include "ui/MDIForm1.h"
+#include "ui/MainWindow.h"
 #include "ui/QtPlatform.h"
 #include "ui/wizards/QtCheckedQuestions.h"
 
@@ -22,6 +23,8 @@ int main(int argc, char** argv) {
   const std::string commandLine = args.join(' ').toStdString();
 
   const std::string folder = tessarine::PrepareApplicationFolder(TESSARINE_DATA_DIR);
+  // Every window of the program shows its icon.
+  QApplication::setWindowIcon(QIcon(QString::fromStdString(folder + "/tessarine.svg")));
   tessarine::QtSettingsStore store;
   tessarine::QtMessageBoxes messages;
   tessarine::QtFileDialogs dialogs;
@@ -32,16 +35,15 @@ int main(int argc, char** argv) {
   tessarine::SystemClock clock;
   tessarine::XdgDefaultBrowser browser;
   tessarine::QtCheckedQuestions questions;
-  tessarine::MDIForm1 frame;
+  tessarine::MainWindow frame;
   messages.SetParent(&frame);
   dialogs.SetParent(&frame);
   colors.SetParent(&frame);
   shell.SetParent(&frame);
   questions.SetParent(&frame);
-  tessarine::Application app(
-      {frame, messages, store, dialogs, colors, shell, clipboard, images, clock, questions,
-       &browser},
-      folder);
+  tessarine::Application app({frame, messages, store, dialogs, colors, shell, clipboard, images,
+                              clock, questions, &browser},
+                             folder);
   app.defaultDocumentFolder = QDir::homePath().toStdString();
   frame.show();
   frame.Load(app, commandLine);

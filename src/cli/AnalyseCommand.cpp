@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <cerrno>
 #include <chrono>
 #include <cstdio>
 #include <cstring>
@@ -18,6 +19,29 @@
 namespace tessarine {
 namespace {
 
+// Standard output, keeping its first failed write: a full disk or a closed pipe makes the
+// run a failure instead of a silently short listing.
+class StandardOutput {
+ public:
+  void Write(const std::string& text) {
+    if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) Fail();
+  }
+  // `status`, or 1 with the reason on standard error when something did not go out.
+  int Finish(int status) {
+    if (std::fflush(stdout) != 0) Fail();
+    if (error_ == 0) return status;
+    std::fprintf(stderr, "tessarine-site: cannot write standard output: %s\n",
+                 std::strerror(error_));
+    return 1;
+  }
+
+ private:
+  void Fail() {
+    if (error_ == 0) error_ = errno != 0 ? errno : EIO;
+  }
+  int error_ = 0;
+};
+
 // A row's texts on one line: a TAB or a line break inside a link would break the line.
 std::string OneLine(std::string text) {
   for (char& c : text) {
@@ -30,8 +54,8 @@ std::string OneLine(std::string text) {
 // progress of a crawl to standard error when a person watches it.
 class ConsoleSiteView : public SiteAnalyserView {
  public:
-  ConsoleSiteView(std::size_t columns, bool showProgress)
-      : columns_(columns), showProgress_(showProgress) {}
+  ConsoleSiteView(StandardOutput& out, std::size_t columns, bool showProgress)
+      : out_(out), columns_(columns), showProgress_(showProgress) {}
 
   void SetMode(const std::string&) override {}
   void SetCaption(const std::string&) override {}
@@ -48,7 +72,7 @@ class ConsoleSiteView : public SiteAnalyserView {
       if (i < row.subItems.size()) line += OneLine(row.subItems[i]);
     }
     line += '\n';
-    std::fwrite(line.data(), 1, line.size(), stdout);
+    out_.Write(line);
   }
   void ShowMessage(const std::string& text) override {
     ClearProgress();
@@ -78,6 +102,7 @@ class ConsoleSiteView : public SiteAnalyserView {
   }
 
  private:
+  StandardOutput& out_;
   std::size_t columns_;
   bool showProgress_;
   bool progressShown_ = false;
@@ -86,7 +111,7 @@ class ConsoleSiteView : public SiteAnalyserView {
 };
 
 // Fields joined by TABs, one line.
-void PrintLine(std::initializer_list<std::string> fields) {
+void PrintLine(StandardOutput& out, std::initializer_list<std::string> fields) {
   std::string line;
   bool first = true;
   for (const std::string& field : fields) {
@@ -95,15 +120,15 @@ void PrintLine(std::initializer_list<std::string> fields) {
     line += OneLine(field);
   }
   line += '\n';
-  std::fwrite(line.data(), 1, line.size(), stdout);
+  out.Write(line);
 }
 
 }  // namespace
 
 void PrintAnalyseUsage(bool toError) {
   std::fputs(
-      "usage: tessarine-site analyse START_PAGE\n"
-      "       tessarine-site analyse --page PAGE\n"
+      "usage: tessarine-site analyse [--standard] START_PAGE\n"
+      "       tessarine-site analyse [--standard] --page PAGE\n"
       "\n"
       "Checks the pages reachable from START_PAGE for broken links, anchors, images,\n"
       "script links and missing titles, and writes LinkReport.txt and BrokenLinks.txt\n"
@@ -111,12 +136,18 @@ void PrintAnalyseUsage(bool toError) {
       "separated), then the error count and the page count.\n"
       "With --page, analyses PAGE alone: one line per link (link, status, title,\n"
       "position), then its title, document weight, size and download time.\n"
-      "Exit status: 0 after a run, 2 for a usage error or a page that cannot be read.\n",
+      "With --standard, every link is resolved against its own page's folder as a\n"
+      "browser does (query and fragment split off, %-escapes decoded), ID= and NAME=\n"
+      "both count as anchors, and links of other schemes are listed, never fetched.\n"
+      "Exit status: 0 after a run; 1 when the reports or standard output could not be\n"
+      "written (the reason on standard error); 2 for a usage error or a page that cannot\n"
+      "be read.\n",
       toError ? stderr : stdout);
 }
 
 int RunAnalyseCommand(int argc, char** argv) {
   bool pageMode = false;
+  bool standard = false;
   std::vector<std::string> operands;
   for (int i = 0; i < argc; ++i) {
     if (std::strcmp(argv[i], "--help") == 0 || std::strcmp(argv[i], "-h") == 0) {
@@ -125,6 +156,8 @@ int RunAnalyseCommand(int argc, char** argv) {
     }
     if (std::strcmp(argv[i], "--page") == 0 && !pageMode) {
       pageMode = true;
+    } else if (std::strcmp(argv[i], "--standard") == 0) {
+      standard = true;
     } else {
       operands.emplace_back(argv[i]);
     }
@@ -148,21 +181,26 @@ int RunAnalyseCommand(int argc, char** argv) {
   const std::string folder = page.parent_path().string();
   const std::string fileName = page.filename().string();
 
-  ConsoleSiteView view(pageMode ? 4 : 3, !pageMode && ::isatty(STDERR_FILENO) == 1);
+  StandardOutput out;
+  ConsoleSiteView view(out, pageMode ? 4 : 3, !pageMode && ::isatty(STDERR_FILENO) == 1);
   SiteAnalyser analyser(view);
+  analyser.standardResolution = standard;
   if (pageMode) {
     analyser.AnalysePage(folder, fileName);
-    PrintLine({view.Label(SiteLabel::Label2), view.Label(SiteLabel::Label4)});
-    PrintLine({view.Label(SiteLabel::Label5)});
-    PrintLine({view.Label(SiteLabel::Label9)});
-    PrintLine({view.Label(SiteLabel::Label12)});
+    PrintLine(out,
+              {view.Label(SiteLabel::ResultsHeading), view.Label(SiteLabel::ErrorCountOrTitle)});
+    PrintLine(out, {view.Label(SiteLabel::PageCountOrWeight)});
+    PrintLine(out, {view.Label(SiteLabel::PageSize)});
+    PrintLine(out, {view.Label(SiteLabel::DownloadTime)});
   } else {
     analyser.AnalyseSite(folder, fileName);
     view.ClearProgress();
-    PrintLine({view.Label(SiteLabel::Label4), view.Label(SiteLabel::Label5)});
+    PrintLine(out,
+              {view.Label(SiteLabel::ErrorCountOrTitle), view.Label(SiteLabel::PageCountOrWeight)});
+    // The reason has gone to standard error with the closing message.
+    if (!analyser.ReportFailure().empty()) return out.Finish(1);
   }
-  std::fflush(stdout);
-  return 0;
+  return out.Finish(0);
 }
 
 }  // namespace tessarine

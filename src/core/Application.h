@@ -5,13 +5,15 @@
 #include <cstdint>
 #include <string>
 
+#include "conventions/WizardState.h"
 #include "core/DocumentList.h"
 #include "core/Editing.h"
 #include "core/FileState.h"
 #include "core/Preview.h"
 #include "platform/Platform.h"
 #include "settings/Settings.h"
-#include "wizards/WizardState.h"
+#include "sitetools/SiteToolState.h"
+#include "styles/StyleState.h"
 
 namespace tessarine {
 
@@ -49,6 +51,10 @@ class Application : public Platform {
   EditingState editing;
   ProgramState programs;
   WizardState wizards;
+  SiteToolState sites;
+  StyleState styles;  // Styles, CurrentStyle, StyleDialogMode
+  // The image dialog's file list opens where it was last left.
+  std::string imageBrowseDirectory;
 
   // The frame's active child: every command works on it at the moment it runs.
   DocumentWindow* ActiveDocument();

@@ -1,6 +1,7 @@
 #include "core/Backups.h"
 
 #include "core/Application.h"
+#include "core/Documents.h"
 #include "core/FileSave.h"
 #include "platform/DocumentWindow.h"
 #include "platform/EditControl.h"
@@ -26,7 +27,7 @@ std::string BackupName(const std::string& caption) {
 void BackupChangedDocuments(Application& app) {
   for (int i = 1; i <= app.documents.UpperBound(); ++i) {
     const DocumentSlot& s = app.documents.Form(i);
-    if (app.documents.State(i).Deleted || !s.form || !app.documents.State(i).Changed) continue;
+    if (!s.form || !DocumentNeedsSaving(app, i)) continue;
     // A copy that cannot be written is skipped; the next tick tries again.
     (void)WriteFileReplacing(BackupName(s.form->Caption()), s.form->Edit().View(), "\r\n");
   }

@@ -6,8 +6,9 @@ namespace tessarine {
 
 namespace {
 
-const char* const kMonths[] = {"January", "February", "March",     "April",   "May",      "June",
-                               "July",    "August",   "September", "October", "November", "December"};
+const char* const kMonths[] = {"January",   "February", "March",    "April",
+                               "May",       "June",     "July",     "August",
+                               "September", "October",  "November", "December"};
 const char* const kDays[] = {"Sunday",   "Monday", "Tuesday", "Wednesday",
                              "Thursday", "Friday", "Saturday"};
 
@@ -31,13 +32,18 @@ std::size_t MarkerAt(std::string_view s, std::size_t at) {
   return 0;
 }
 
-void Number(std::string& out, int value, bool twoDigits) {
+void Number(std::string& out, long long value, bool twoDigits) {
   if (twoDigits && value < 10 && value >= 0) out += '0';
   out += std::to_string(value);
 }
 
-int Wrap(int v, int n) {
-  return ((v % n) + n) % n;
+int Wrap(long long v, int n) {
+  return static_cast<int>(((v % n) + n) % n);
+}
+
+// The year and the day of the year counted on in 64 bits: a tm may hold any int.
+long long Year(const std::tm& t) {
+  return static_cast<long long>(t.tm_year) + 1900;
 }
 
 }  // namespace
@@ -99,11 +105,11 @@ std::string FormatDate(const std::tm& t, std::string_view p) {
         break;
       case 'y':
         if (run == 1)
-          out += std::to_string(t.tm_yday + 1);
+          out += std::to_string(static_cast<long long>(t.tm_yday) + 1);
         else if (run <= 3)
-          Number(out, Wrap(t.tm_year + 1900, 100), true);
+          Number(out, Wrap(Year(t), 100), true);
         else
-          out += std::to_string(t.tm_year + 1900);
+          out += std::to_string(Year(t));
         break;
       case 'h': {
         int h = t.tm_hour;

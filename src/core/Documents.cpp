@@ -15,6 +15,20 @@ bool CaptionIsUntitledForPrompt(const std::string& caption) {
   return caption.compare(0, 8, "Untitled") == 0;
 }
 
+bool DocumentNeedsSaving(Application& app, int slot) {
+  if (slot < 1 || slot > app.documents.UpperBound() || app.documents.State(slot).Deleted)
+    return false;
+  if (app.documents.State(slot).Changed) return true;
+  DocumentWindow* w = app.documents.Form(slot).form;
+  return w && w->Edit().IsModified();
+}
+
+void MarkDocumentUnchanged(Application& app, int slot) {
+  if (slot < 1 || slot > app.documents.UpperBound()) return;
+  app.documents.State(slot).Changed = false;
+  if (DocumentWindow* w = app.documents.Form(slot).form) w->Edit().SetSavePoint();
+}
+
 DocumentWindow* NewDocumentWindow(Application& app) {
   DocumentList& docs = app.documents;
   if (!docs.AnyDocumentsLeft()) app.frame.SetToolbarButtonsEnabled(true);
@@ -57,14 +71,15 @@ void OnDocumentActivated(Application& app, DocumentWindow& window) {
   const int slot = app.documents.SlotOf(&window);
   if (slot == 0) return;
   app.frame.SetLengthPanel(window.Edit().Length());
-  app.frame.SetSaveButtonEnabled(app.documents.State(slot).Changed);
+  UpdateLinePanel(app, window);
+  app.frame.SetSaveButtonEnabled(DocumentNeedsSaving(app, slot));
 }
 
 bool QueryUnload(Application& app, DocumentWindow& window) {
   DocumentList& docs = app.documents;
   const int slot = docs.SlotOf(&window);
   if (slot == 0) return true;
-  if (docs.State(slot).Changed) {
+  if (DocumentNeedsSaving(app, slot)) {
     const std::string caption = window.Caption();
     const MsgAnswer answer = app.messages.Show(
         "The text in [" + caption + "] has changed.\r\nDo you want to save the changes?",
@@ -76,8 +91,8 @@ bool QueryUnload(Application& app, DocumentWindow& window) {
     if (answer == MsgAnswer::Yes) {
       const std::string name = CaptionIsUntitledForPrompt(caption) ? SaveAsDialog(app) : caption;
       if (name.empty()) return false;
-      // A failed write is shown and the unload goes on.
-      SaveFile(app, window, name, SaveMode::Prompt);
+      // A failed write is shown and the window stays: its text exists nowhere else.
+      if (!SaveFile(app, window, name, SaveMode::Prompt)) return false;
     }
   }
   docs.State(slot).Deleted = true;

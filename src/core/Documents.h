@@ -32,6 +32,14 @@ bool CloseAllForExit(Application& app);
 void mnuWindowArrange(Application& app, int index);
 void mnuWindowMove(Application& app, int index);
 
+// Whether the text would be lost on closing: the change flag, or the edit control's word
+// that its text differs from what was last loaded or saved (an edit the change handler
+// never saw, say while an abandoned colouring pass holds it off).
+bool DocumentNeedsSaving(Application& app, int slot);
+// The text now matches its file (or the fresh page): the flag goes down, and the control
+// takes this text as its save point.
+void MarkDocumentUnchanged(Application& app, int slot);
+
 // The save prompt's test: exactly "Untitled" in the first eight characters.
 bool CaptionIsUntitledForPrompt(const std::string& caption);
 

@@ -1,5 +1,7 @@
 #include "core/Editing.h"
 
+#include "conventions/SaveWarning.h"
+#include "conventions/TagConventions.h"
 #include "core/Application.h"
 #include "core/ColorizeRun.h"
 #include "core/TextServices.h"
@@ -7,8 +9,6 @@
 #include "platform/DocumentWindow.h"
 #include "platform/EditControl.h"
 #include "platform/Frame.h"
-#include "wizards/SaveWarning.h"
-#include "wizards/TagConventions.h"
 
 namespace tessarine {
 
@@ -184,6 +184,17 @@ bool DropFile(Application& app, DocumentWindow& window, const std::string& path)
 void mnuUndo(Application& app) {
   // The tag commands empty the history, so this stops at the last of them.
   if (EditControl* e = app.ActiveEdit()) e->Undo();
+}
+
+void mnuRedo(Application& app) {
+  if (EditControl* e = app.ActiveEdit()) e->Redo();
+}
+
+bool ReplaceAllAsOneStep(Application& app, const FindReplaceInputs& in) {
+  EditControl* e = app.ActiveEdit();
+  if (!e) return cmdReplaceAll(app, in);
+  UndoGroup group(*e);
+  return cmdReplaceAll(app, in);
 }
 
 void mnuCut(Application& app) {

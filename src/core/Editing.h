@@ -65,6 +65,9 @@ std::string DroppedFileTag(const std::string& name, const std::string& path, boo
 
 // The Edit menu.
 void mnuUndo(Application& app);
+void mnuRedo(Application& app);
+// Replace All as the user runs it: the whole run is one undo step.
+bool ReplaceAllAsOneStep(Application& app, const FindReplaceInputs& in);
 void mnuCut(Application& app);
 void mnuCopy(Application& app);
 void mnuPaste(Application& app);

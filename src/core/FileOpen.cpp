@@ -10,6 +10,7 @@
 #include "core/Application.h"
 #include "core/ColorizeRun.h"
 #include "core/Documents.h"
+#include "core/Editing.h"
 #include "core/FileSave.h"
 #include "core/RecentFiles.h"
 #include "core/TextServices.h"
@@ -94,10 +95,14 @@ DocumentWindow* LoadIntoNewWindow(Application& app, const std::string& path, std
       ColorizeTags(app, *window);
   }
   if (!app.documents.IsAlive(window, serial)) return nullptr;
-  app.documents.State(slot).Changed = changed;
+  if (changed)
+    app.documents.State(slot).Changed = true;
+  else
+    MarkDocumentUnchanged(app, slot);
   if (app.ActiveDocument() == window) {
     app.frame.SetSaveButtonEnabled(changed);
     app.frame.SetLengthPanel(edit.Length());
+    UpdateLinePanel(app, *window);
   }
   edit.SetVisible(true);
   return window;
@@ -170,7 +175,10 @@ bool IsDocumentOpen(Application& app, const std::string& path, bool activate) {
 
 bool OpenFile(Application& app, const std::string& path) {
   if (!FileExists(path)) {
-    Message(app, "Document doesn't exist");
+    // A file that is there but may not be read is not called missing.
+    struct stat st {};
+    const bool present = !path.empty() && ::stat(path.c_str(), &st) == 0 && S_ISREG(st.st_mode);
+    Message(app, present ? "Document can't be read: " + path : "Document doesn't exist");
     return false;
   }
   if (IsDocumentOpen(app, path, false)) return false;
@@ -215,7 +223,7 @@ void GiveWayIfUntouchedFirstWindow(Application& app) {
   DocumentWindow* w = app.ActiveDocument();
   if (!w) return;
   const int slot = app.documents.SlotOf(w);
-  if (slot == 0 || app.documents.State(slot).Changed) return;
+  if (slot == 0 || DocumentNeedsSaving(app, slot)) return;
   if (LCase(w->Caption()) == "untitled:1") w->RequestClose();
 }
 

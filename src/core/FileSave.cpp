@@ -98,13 +98,33 @@ std::string ErrorDescription(int number) {
   }
 }
 
+namespace {
+
+// The file a symbolic link names, followed link by link, also when that file doesn't exist
+// yet: saving through a dangling link creates its target rather than replacing the link.
+// Too many links (a loop) leave the path as it is, for the write to fail on it.
+std::string LinkTarget(const std::string& path) {
+  std::string current = path;
+  for (int depth = 0; depth < 40; ++depth) {
+    struct stat st {};
+    if (::lstat(current.c_str(), &st) != 0 || !S_ISLNK(st.st_mode)) return current;
+    char buffer[PATH_MAX];
+    const ssize_t n = ::readlink(current.c_str(), buffer, sizeof buffer - 1);
+    if (n <= 0) return current;
+    const std::string link(buffer, static_cast<size_t>(n));
+    const auto slash = current.find_last_of('/');
+    current = link.front() == '/' || slash == std::string::npos
+                  ? link
+                  : current.substr(0, slash + 1) + link;
+  }
+  return path;
+}
+
+}  // namespace
+
 int WriteFileReplacing(const std::string& path, std::string_view first, std::string_view second) {
-  // Write through a symbolic link to the file it names.
-  std::string target = path;
-  char resolved[PATH_MAX];
+  const std::string target = LinkTarget(path);
   struct stat st {};
-  if (::lstat(path.c_str(), &st) == 0 && S_ISLNK(st.st_mode) && ::realpath(path.c_str(), resolved))
-    target = resolved;
   const bool exists = ::stat(target.c_str(), &st) == 0;
   if (exists && S_ISDIR(st.st_mode)) return 75;
   // A file that may not be written fails here, as opening it for output would.
@@ -139,8 +159,8 @@ int WriteFileReplacing(const std::string& path, std::string_view first, std::str
   return error;
 }
 
-void SaveFile(Application& app, DocumentWindow& window, const std::string& path, SaveMode mode) {
-  if (path.empty()) return;
+bool SaveFile(Application& app, DocumentWindow& window, const std::string& path, SaveMode mode) {
+  if (path.empty()) return false;
   EditControl& edit = window.Edit();
   app.frame.SetMousePointer(MousePointer::Hourglass);
   const int error = WriteFileReplacing(path, edit.View(), "\r\n");
@@ -151,16 +171,20 @@ void SaveFile(Application& app, DocumentWindow& window, const std::string& path,
     app.messages.Show(message, MsgButtons::OK, MsgIcon::Exclamation, app.title);
     if (error == 75) {
       edit.SetFocus();
-      return;
+      return false;
     }
   }
-  // Other errors go on as if the file had been written.
-  window.SetCaption(path);
-  const int slot = app.documents.SlotOf(&window);
-  if (slot != 0) app.documents.State(slot).Changed = false;
+  // The other errors go on with the recent list and the file list, but a text that was
+  // not written keeps its caption and stays changed, so closing still asks about it.
+  if (!error) {
+    window.SetCaption(path);
+    const int slot = app.documents.SlotOf(&window);
+    if (slot != 0) MarkDocumentUnchanged(app, slot);
+  }
   UpdateRecentFiles(app, path);
   if (app.files.refreshFileList) app.files.refreshFileList();
-  if (mode == SaveMode::Prompt) edit.SetFocus();
+  if (mode == SaveMode::Prompt || error) edit.SetFocus();
+  return !error;
 }
 
 void FileSaveCommand(Application& app, bool saveAs) {
@@ -169,8 +193,7 @@ void FileSaveCommand(Application& app, bool saveAs) {
   const std::string name =
       saveAs || CaptionIsUntitledForPrompt(w->Caption()) ? SaveAsDialog(app) : w->Caption();
   if (name.empty()) return;
-  SaveFile(app, *w, name, SaveMode::Command);
-  app.frame.SetSaveButtonEnabled(false);
+  if (SaveFile(app, *w, name, SaveMode::Command)) app.frame.SetSaveButtonEnabled(false);
 }
 
 }  // namespace tessarine

@@ -52,7 +52,7 @@ void ShowFinished(Application& app) {
                     MsgIcon::None, app.title);
 }
 
-void Conclude(Application& app, Pos found, std::string_view needle) {
+bool Conclude(Application& app, Pos found, std::string_view needle) {
   FindState& f = app.editing.find;
   EditControl* e = app.ActiveEdit();
   if (found >= 0) {
@@ -63,6 +63,7 @@ void Conclude(Application& app, Pos found, std::string_view needle) {
   }
   if (e) f.LastFoundStart = e->SelStart();
   f.NewSearch = false;
+  return found >= 0;
 }
 
 }  // namespace
@@ -110,19 +111,19 @@ Pos SearchUp(std::string_view text, Pos from, std::string_view needle, bool matc
   return -1;
 }
 
-void FindText(Application& app, Pos start, std::string_view text, std::string_view needle,
+bool FindText(Application& app, Pos start, std::string_view text, std::string_view needle,
               int direction, bool matchCase) {
   FindState& f = app.editing.find;
   f.FindFinished = false;
   const Pos from = FromOf(f, start);
   const Pos found = direction != 0 ? SearchDown(text, from, needle, matchCase)
                                    : SearchUp(text, from, needle, matchCase);
-  Conclude(app, found, needle);
+  return Conclude(app, found, needle);
 }
 
-void FindText(Application& app, Pos start, std::string_view needle, int direction, bool matchCase) {
+bool FindText(Application& app, Pos start, std::string_view needle, int direction, bool matchCase) {
   EditControl* e = app.ActiveEdit();
-  if (!e) return;
+  if (!e) return false;
   FindState& f = app.editing.find;
   f.FindFinished = false;
   const Pos from = FromOf(f, start), length = e->Length(), n = static_cast<Pos>(needle.size());
@@ -150,7 +151,7 @@ void FindText(Application& app, Pos start, std::string_view needle, int directio
       hi = std::min(length, lo - 1 + n);
     }
   }
-  Conclude(app, found, needle);
+  return Conclude(app, found, needle);
 }
 
 bool ValidateFindReplace(const FindReplaceInputs& in) {
@@ -198,14 +199,16 @@ bool cmdReplaceAll(Application& app, const FindReplaceInputs& in) {
     EditControl* e = app.ActiveEdit();
     if (!e) break;
     e->SetFocus();
-    FindText(app, e->SelStart(), f.FindWhat, f.FindDirection, f.FindMatchCase != 0);
+    bool found = FindText(app, e->SelStart(), f.FindWhat, f.FindDirection, f.FindMatchCase != 0);
     // Upwards, a replacement that holds the needle is met again behind the caret; the
     // search goes on from its start rather than replacing inside it for ever.
-    if (!f.FindFinished && f.FindDirection == 0 && previous >= 0 && e->SelStart() >= previous) {
+    if (found && f.FindDirection == 0 && previous >= 0 && e->SelStart() >= previous) {
       e->SetSelStart(previous);
-      FindText(app, previous, f.FindWhat, f.FindDirection, f.FindMatchCase != 0);
+      found = FindText(app, previous, f.FindWhat, f.FindDirection, f.FindMatchCase != 0);
     }
-    if (f.FindFinished) {
+    // The page-structure needles miss silently, without FindFinished: a miss ends the
+    // loop all the same, or the caret's empty selection would be replaced for ever.
+    if (!found) {
       f.ReplaceCount = 0;
       hide = true;
       break;

@@ -34,13 +34,13 @@ Pos SearchUp(std::string_view text, Pos from, std::string_view needle, bool matc
 
 // Selects the match in the active control and keeps the globals; says it is finished when
 // there is none, except for the page-structure needles, which stay silent. `direction` 1
-// searches down, 0 up. `text` is the active control's text.
-void FindText(Application& app, Pos start, std::string_view text, std::string_view needle,
+// searches down, 0 up. `text` is the active control's text. True when a match was found.
+bool FindText(Application& app, Pos start, std::string_view text, std::string_view needle,
               int direction, bool matchCase);
 // The same on the active control's text as it stands, without copying it.
-void FindText(Application& app, Pos start, std::string_view needle, int direction, bool matchCase);
+bool FindText(Application& app, Pos start, std::string_view needle, int direction, bool matchCase);
 
-// The dialog frmFindReplace: its inputs by control name.
+// The dialog FindReplaceDialog: its inputs by control name.
 struct FindReplaceInputs {
   std::string txtFind;
   std::string txtReplace;

@@ -7,6 +7,7 @@
 #include "core/ColorizeRun.h"
 #include "core/DateFormat.h"
 #include "core/Documents.h"
+#include "core/Editing.h"
 #include "core/FileOpen.h"
 #include "core/RecentFiles.h"
 #include "core/TextServices.h"
@@ -129,13 +130,14 @@ void NewDocument(Application& app, const std::string& kind) {
   auto alive = [&] { return app.documents.IsAlive(window, serial); };
   if (alive() && app.settings.Flags.ColorTags) ColorizeTags(app, *window);
   if (alive()) {
-    app.documents.State(slot).Changed = false;
+    MarkDocumentUnchanged(app, slot);
     app.frame.SetSaveButtonEnabled(false);
     // 5000 stands for the end of the text; a negative result leaves the caret alone.
     edit.SetSelStart(edit.SelStart() + 5000);
     const auto pos = edit.SelStart() - files.offsetFromEnd;
     if (pos >= 0) edit.SetSelStart(pos);
     app.frame.SetLengthPanel(edit.Length());
+    UpdateLinePanel(app, *window);
   }
   files.NewDocumentInProgress = 0;
   LoadRecentFiles(app);

@@ -30,7 +30,7 @@ Skeleton HtmlSkeleton(bool tagCaseUpper, const std::string& title, const std::tm
 Skeleton AspSkeleton();
 Skeleton XslSkeleton();
 
-// frmXMLdoc ("New XML document").
+// XmlDocumentDialog ("New XML document").
 struct XmlDocInputs {
   std::string cboVersion = "1.0";
   bool chkStandalone = false;
@@ -44,7 +44,7 @@ std::vector<std::string> ListTemplates(const std::string& programFolder);
 // double-click always puts one.
 std::string TemplatePath(const std::string& programFolder, const std::string& name,
                          bool doubleClick);
-// Command1 (and a double-click): a blank template choice gives the ordinary skeleton.
+// OK (or a double-click): a blank template choice gives the ordinary skeleton.
 void OpenTemplate(Application& app, const std::string& selectedName, bool doubleClick);
 
 }  // namespace tessarine

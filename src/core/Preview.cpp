@@ -1,6 +1,7 @@
 #include "core/Preview.h"
 
 #include "core/Application.h"
+#include "core/Documents.h"
 #include "core/FileSave.h"
 #include "core/TextServices.h"
 #include "platform/DefaultBrowser.h"
@@ -63,7 +64,7 @@ TargetResult TakeTarget(Application& app, DocumentWindow& window, std::string& t
   EditControl& edit = window.Edit();
   const std::string caption = window.Caption();
   const int slot = app.documents.SlotOf(&window);
-  const bool changed = slot != 0 && app.documents.State(slot).Changed;
+  const bool changed = DocumentNeedsSaving(app, slot);
   if (LCase(caption.substr(0, 8)) != "untitled") {
     if (!changed) {
       target = caption;
@@ -84,7 +85,7 @@ TargetResult TakeTarget(Application& app, DocumentWindow& window, std::string& t
     edit.SetFocus();
     return TargetResult::Stopped;
   }
-  SaveFile(app, window, name, SaveMode::Command);
+  if (!SaveFile(app, window, name, SaveMode::Command)) return TargetResult::Stopped;
   target = name;
   return TargetResult::Ready;
 }

@@ -34,6 +34,8 @@ WindowPlacement ComputeWindowPlacement(const SettingsStore& s, int screenWidth, 
     p.width = screenWidth;
     p.height = screenHeight;
   }
+  p.fillsScreen = p.width == screenWidth && p.height == screenHeight &&
+                  (w.empty() || h.empty() || (w == "5000" && h == "5000"));
   return p;
 }
 
@@ -72,10 +74,15 @@ std::string DataHome() {
 }
 }  // namespace
 
-void RegisterEditVerbs(Application&) {
+void RegisterEditVerbs(Application& app) {
   std::error_code ec;
   const fs::path exe = fs::read_symlink("/proc/self/exe", ec);
   if (ec) return;
+  // The entry's icon: the application's own, where the desktop looks for icons.
+  const fs::path icons = fs::path(DataHome()) / "icons/hicolor/scalable/apps";
+  fs::create_directories(icons, ec);
+  fs::copy_file(fs::path(app.programFolder) / "tessarine.svg", icons / "tessarine.svg",
+                fs::copy_options::overwrite_existing, ec);
   const fs::path dir = fs::path(DataHome()) / "applications";
   fs::create_directories(dir, ec);
   std::ofstream out(dir / "tessarine.desktop", std::ios::binary | std::ios::trunc);
@@ -89,6 +96,7 @@ void RegisterEditVerbs(Application&) {
       << "\" %f\n"
          "MimeType=text/html;application/x-asp;text/javascript;application/javascript;\n"
          "Categories=Development;WebDevelopment;TextEditor;\n"
+         "Icon=tessarine\n"
          "Terminal=false\n"
          "NoDisplay=false\n";
 }

@@ -20,6 +20,8 @@ constexpr int kTwipsPerPixel = 15;
 
 struct WindowPlacement {
   int x = 0, y = 0, width = 0, height = 0;  // pixels
+  // The screen's size was taken (first run or empty sizes): the window opens maximised.
+  bool fillsScreen = false;
 };
 
 // Where the main window goes at load. Both sizes at exactly 5000 (the first run) or empty

@@ -2,12 +2,12 @@
 
 #include <array>
 
+#include "conventions/TagConventions.h"
 #include "core/Application.h"
 #include "core/TextServices.h"
 #include "platform/Desktop.h"
 #include "platform/EditControl.h"
 #include "platform/SettingsStore.h"
-#include "wizards/TagConventions.h"
 
 namespace tessarine {
 
@@ -233,7 +233,7 @@ std::string mnuHR(Application& app) {
   }
   app.wizards.HeadInsert.clear();
   app.wizards.BodyInsert.clear();
-  return "frmHorizLine";
+  return "HorizontalLine";
 }
 
 void mnuHR_Finish(Application& app) {
@@ -343,10 +343,8 @@ std::vector<ShortcutGroup> ShortcutBarGroups(const SettingsStore& store) {
 }
 
 bool ShortcutKeyAvailable(const std::string& key) {
-  if (key == "TableWizard" || key == "FormWizard" || key == "Add custom button") return false;
-  for (const char* field : kFormFields)
-    if (key == field) return false;
-  return true;
+  // Every dialog of the bar exists; the custom button's needs the preferences.
+  return key != "Add custom button";
 }
 
 std::string HelpPagePath(const Application& app, int contextId) {
@@ -380,7 +378,7 @@ std::string ShortcutBarClick(Application& app, const std::string& key) {
   for (int i = 0; i < 11; ++i)
     if (key == kFormFields[i]) return "FormElement:" + std::to_string(i);
   if (key == "FormWizard") return "FormWizard";
-  if (key == "Script tags") return "frmScriptTags";
+  if (key == "Script tags") return "ScriptTags";
   if (key == "ASP%") WrapWith(app, "<%", "%>");
   if (key == "ASP%=") WrapWith(app, "<%=", "%>");
   if (key == "IncludeFile") WrapWith(app, "<!--#include file=" + Q, Q + " -->");

@@ -28,7 +28,7 @@ void RunTagMenu(Application& app, const std::string& array, int index);
 // mnuListItem.
 void RunInsertCommand(Application& app, const std::string& name);
 
-// "<HR>" at the caret, or "frmHorizLine" when the properties box is on (HeadInsert and
+// "<HR>" at the caret, or "HorizontalLine" when the properties box is on (HeadInsert and
 // BodyInsert are cleared for it); mnuHR_Finish writes what the dialog left.
 std::string mnuHR(Application& app);
 void mnuHR_Finish(Application& app);
@@ -56,7 +56,7 @@ struct ShortcutGroup {
 std::vector<ShortcutGroup> ShortcutBarGroups(const SettingsStore& store);
 // Group 5: the add item, then one item per named custom button.
 std::vector<ShortcutItem> LoadCustomButtons(const SettingsStore& store);
-// A click on an item, by key. Returns a dialog name: "OptionsFrm", "frmScriptTags",
+// A click on an item, by key. Returns a dialog name: "OptionsFrm", "ScriptTags",
 // "TableWizard", "FormWizard", or "FormElement:n" with the field kind n.
 std::string ShortcutBarClick(Application& app, const std::string& key);
 // Keys whose dialogs aren't built yet: the bar shows them dimmed.

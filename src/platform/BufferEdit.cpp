@@ -34,6 +34,8 @@ void BufferEdit::SetText(std::string_view bytes) {
   selStart_ = selLength_ = 0;
   insertionStyleSet_ = false;
   undo_.clear();
+  redo_.clear();
+  savedDepth_ = 0;
   NotifyChanged();
 }
 
@@ -84,7 +86,13 @@ void BufferEdit::Replace(Pos start, Pos length, std::string_view bytes, bool rec
                       : start > 0 ? styles_[static_cast<size_t>(start - 1)]
                                   : baseStyle_;
   const auto s = static_cast<size_t>(start), l = static_cast<size_t>(length);
-  if (recordUndo) undo_.push_back({start, text_.substr(s, l), inserted});
+  if (recordUndo) {
+    // A new edit below the saved state makes that state unreachable.
+    if (savedDepth_ > static_cast<std::int64_t>(undo_.size())) savedDepth_ = -1;
+    redo_.clear();
+    undo_.push_back({start, text_.substr(s, l), inserted, groupDepth_ > 0 && groupStarted_});
+    if (groupDepth_ > 0) groupStarted_ = true;
+  }
   text_.replace(s, l, bytes);
   styles_.erase(styles_.begin() + static_cast<std::ptrdiff_t>(s),
                 styles_.begin() + static_cast<std::ptrdiff_t>(s + l));
@@ -131,15 +139,57 @@ Style BufferEdit::StyleAt(Pos pos) const {
   return styles_[static_cast<size_t>(pos)];
 }
 
-void BufferEdit::Undo() {
-  if (undo_.empty()) return;
-  const UndoStep step = undo_.back();
-  undo_.pop_back();
+bool BufferEdit::Revert(std::vector<UndoStep>& from, std::vector<UndoStep>& to) {
+  const UndoStep step = std::move(from.back());
+  from.pop_back();
+  const auto s = static_cast<size_t>(step.start);
+  to.push_back({step.start, text_.substr(s, static_cast<size_t>(step.insertedLength)),
+                static_cast<Pos>(step.removed.size()), false});
   Replace(step.start, step.insertedLength, step.removed, false);
   selStart_ = step.start + static_cast<Pos>(step.removed.size());
   selLength_ = 0;
+  return step.joinsPrevious;
+}
+
+void BufferEdit::Undo() {
+  if (undo_.empty()) return;
+  // A group's redo steps lie in reverse: its first step on top, redone first, with the
+  // rest of the group below it.
+  const std::size_t firstRedo = redo_.size();
+  while (!undo_.empty() && Revert(undo_, redo_)) {
+  }
+  for (std::size_t i = firstRedo; i < redo_.size(); ++i) redo_[i].joinsPrevious = i > firstRedo;
   ForgetInsertionStyleIfMoved();
   NotifyChanged();
+}
+
+void BufferEdit::Redo() {
+  if (redo_.empty()) return;
+  bool more = true;
+  bool first = true;
+  while (more && !redo_.empty()) {
+    more = redo_.back().joinsPrevious;
+    Revert(redo_, undo_);
+    undo_.back().joinsPrevious = !first;
+    first = false;
+  }
+  ForgetInsertionStyleIfMoved();
+  NotifyChanged();
+}
+
+void BufferEdit::EmptyUndoBuffer() {
+  // Once the way back is gone, a text that differs from the saved one stays modified.
+  savedDepth_ = IsModified() ? -1 : 0;
+  undo_.clear();
+  redo_.clear();
+}
+
+bool BufferEdit::IsModified() const {
+  return savedDepth_ != static_cast<std::int64_t>(undo_.size());
+}
+
+void BufferEdit::SetSavePoint() {
+  savedDepth_ = static_cast<std::int64_t>(undo_.size());
 }
 
 }  // namespace tessarine

@@ -41,9 +41,17 @@ class BufferEdit : public EditControl {
   void SetWordWrap(bool wrap) override { wordWrap_ = wrap; }
   bool WordWrap() const override { return wordWrap_; }
 
-  void EmptyUndoBuffer() override { undo_.clear(); }
+  void EmptyUndoBuffer() override;
   bool CanUndo() const override { return !undo_.empty(); }
   void Undo() override;
+  bool CanRedo() const override { return !redo_.empty(); }
+  void Redo() override;
+  void BeginUndoGroup() override { ++groupDepth_; }
+  void EndUndoGroup() override {
+    if (groupDepth_ > 0 && --groupDepth_ == 0) groupStarted_ = false;
+  }
+  bool IsModified() const override;
+  void SetSavePoint() override;
 
   // Typing as a user does: replaces the selection, one undo step per call.
   void Type(std::string_view bytes) { ReplaceSel(bytes); }
@@ -54,7 +62,11 @@ class BufferEdit : public EditControl {
     Pos start;
     std::string removed;
     Pos insertedLength;
+    bool joinsPrevious;  // undone together with the step before it (one group)
   };
+  // Undoes the last step of `from` and records its inverse on `to`; true if the step was
+  // part of a group with the one before it.
+  bool Revert(std::vector<UndoStep>& from, std::vector<UndoStep>& to);
   // Replaces a range, moving the selection with its text as the widget does; no notice.
   void Replace(Pos start, Pos length, std::string_view bytes, bool recordUndo);
   // An insertion style set on another selection no longer holds.
@@ -73,6 +85,11 @@ class BufferEdit : public EditControl {
   bool wordWrap_ = false;
   int focusCount_ = 0;
   std::vector<UndoStep> undo_;
+  std::vector<UndoStep> redo_;
+  int groupDepth_ = 0;
+  bool groupStarted_ = false;
+  // The undo depth of the saved text; -1 when no undo or redo can reach it any more.
+  std::int64_t savedDepth_ = 0;
 };
 
 }  // namespace tessarine

@@ -1,11 +1,11 @@
 #include "platform/Desktop.h"
 
+#include "platform/ImageHeader.h"
+
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
-#include <fstream>
 
 namespace tessarine {
 
@@ -60,13 +60,6 @@ bool SpawnDetached(const std::vector<std::string>& argv) {
   return n == 0;
 }
 
-std::uint32_t Be16(const unsigned char* p) {
-  return (p[0] << 8) | p[1];
-}
-std::uint32_t Be32(const unsigned char* p) {
-  return (static_cast<std::uint32_t>(p[0]) << 24) | (p[1] << 16) | (p[2] << 8) | p[3];
-}
-
 }  // namespace
 
 bool PosixShell::OpenInDefaultViewer(const std::string& path) {
@@ -82,51 +75,11 @@ bool PosixShell::StartProgram(const std::string& program, const std::vector<std:
 }
 
 bool HeaderImageInfo::Size(const std::string& path, int& width, int& height) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) return false;
-  unsigned char h[26] = {};
-  in.read(reinterpret_cast<char*>(h), sizeof h);
-  const auto got = in.gcount();
-  if (got >= 10 && (std::string(reinterpret_cast<char*>(h), 6) == "GIF87a" ||
-                    std::string(reinterpret_cast<char*>(h), 6) == "GIF89a")) {
-    width = h[6] | (h[7] << 8);
-    height = h[8] | (h[9] << 8);
-    return true;
-  }
-  if (got >= 24 && Be32(h) == 0x89504E47u && Be32(h + 4) == 0x0D0A1A0Au) {
-    width = static_cast<int>(Be32(h + 16));
-    height = static_cast<int>(Be32(h + 20));
-    return true;
-  }
-  if (got >= 4 && h[0] == 0xFF && h[1] == 0xD8) {
-    // Walk the markers to the first start-of-frame.
-    in.clear();
-    in.seekg(2);
-    for (int guard = 0; guard < 10000 && in; ++guard) {
-      unsigned char m[4];
-      if (!in.read(reinterpret_cast<char*>(m), 2) || m[0] != 0xFF) return false;
-      const unsigned char marker = m[1];
-      if (marker == 0xFF) {
-        in.seekg(-1, std::ios::cur);  // fill byte
-        continue;
-      }
-      if (marker == 0xD8 || marker == 0x01 || (marker >= 0xD0 && marker <= 0xD7)) continue;
-      if (!in.read(reinterpret_cast<char*>(m), 2)) return false;
-      const std::uint32_t length = Be16(m);
-      if (length < 2) return false;
-      const bool sof =
-          marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
-      if (sof) {
-        unsigned char f[5];
-        if (!in.read(reinterpret_cast<char*>(f), 5)) return false;
-        height = static_cast<int>(Be16(f + 1));
-        width = static_cast<int>(Be16(f + 3));
-        return true;
-      }
-      in.seekg(static_cast<std::streamoff>(length) - 2, std::ios::cur);
-    }
-  }
-  return false;
+  const ImageHeader header = ReadImageFileHeader(path);
+  if (!header.ok()) return false;
+  width = header.width;
+  height = header.height;
+  return true;
 }
 
 std::tm SystemClock::Now() const {

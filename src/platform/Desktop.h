@@ -83,7 +83,7 @@ class MemoryClipboard : public Clipboard {
   std::string text_;
 };
 
-// Reads the size from the file's header: GIF, JPEG and PNG.
+// Reads the size from the file's header: GIF, PNG, JPEG and BMP.
 class HeaderImageInfo : public ImageInfo {
  public:
   bool Size(const std::string& path, int& width, int& height) override;

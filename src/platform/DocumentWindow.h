@@ -23,6 +23,9 @@ class DocumentWindow {
   // The logic's answer to a close request: true lets the window go.
   void SetQueryUnloadHandler(std::function<bool()> handler) { queryUnload_ = std::move(handler); }
 
+  // The last tag Edit Tag read in this window, without its "<"; kept between commands.
+  std::string editTagCurrent;
+
  protected:
   bool QueryUnload() { return queryUnload_ ? queryUnload_() : true; }
 

@@ -67,10 +67,21 @@ class EditControl {
   virtual void SetWordWrap(bool wrap) = 0;
   virtual bool WordWrap() const = 0;
 
-  // Undo.
+  // Undo and redo. Edits between BeginUndoGroup and the matching EndUndoGroup are one
+  // step (groups nest; only the outermost counts).
   virtual void EmptyUndoBuffer() = 0;
   virtual bool CanUndo() const = 0;
   virtual void Undo() = 0;
+  virtual bool CanRedo() const = 0;
+  virtual void Redo() = 0;
+  virtual void BeginUndoGroup() = 0;
+  virtual void EndUndoGroup() = 0;
+
+  // The save point: whether the text differs from what was last loaded or saved, whoever
+  // changed it and whether or not anybody was told. Undo and redo back to the saved text
+  // make it unmodified again, unless the history that led there was emptied.
+  virtual bool IsModified() const = 0;
+  virtual void SetSavePoint() = 0;
 
   // Called after every change of the text, whoever made it (typing, ReplaceSel, undo).
   void SetChangeHandler(std::function<void()> handler) { changeHandler_ = std::move(handler); }
@@ -82,6 +93,18 @@ class EditControl {
 
  private:
   std::function<void()> changeHandler_;
+};
+
+// Makes the edits of one scope a single undo step, however the scope is left.
+class UndoGroup {
+ public:
+  explicit UndoGroup(EditControl& edit) : edit_(edit) { edit_.BeginUndoGroup(); }
+  ~UndoGroup() { edit_.EndUndoGroup(); }
+  UndoGroup(const UndoGroup&) = delete;
+  UndoGroup& operator=(const UndoGroup&) = delete;
+
+ private:
+  EditControl& edit_;
 };
 
 }  // namespace tessarine

@@ -30,6 +30,7 @@ class ScriptedMessageBoxes : public MessageBoxes {
   };
   void Queue(MsgAnswer answer) { answers_.push_back(answer); }
   const std::vector<Shown>& shown() const { return shown_; }
+  void Clear() { shown_.clear(); }
   MsgAnswer Show(const std::string& text, MsgButtons buttons, MsgIcon icon,
                  const std::string& title) override;
 

@@ -94,7 +94,9 @@ bool StrictInt16(const std::string& text, std::int16_t& value) {
       if (exponent == 0) return false;
     }
     if (i != t.size()) return false;
-    number = Val(t);
+    // Out of the range of a double ("1e400") is out of range, not the 0 Val makes of it.
+    number = std::strtod(t.c_str(), nullptr);
+    if (!std::isfinite(number)) return false;
   }
   const double r = std::nearbyint(number);
   if (r < -32768 || r > 32767) return false;

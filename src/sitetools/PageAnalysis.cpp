@@ -49,17 +49,18 @@ void SiteAnalyser::AnalysePage(const std::string& folder, const std::string& fil
 
   const std::int64_t pageSize = FileLength(CurrentPage);
   const std::int64_t weight = pageSize + DocumentWeight;
-  view_.SetLabel(SiteLabel::Label2, "File Title:");
-  view_.SetLabel(SiteLabel::Label4, PageTitle);
-  view_.SetLabel(SiteLabel::Label5, "Document weight (file size including images, etc.): " +
-                                        NumberText(weight) + " bytes");
-  view_.SetLabel(SiteLabel::Label9, NumberText(pageSize) + " bytes");
+  view_.SetLabel(SiteLabel::ResultsHeading, "File Title:");
+  view_.SetLabel(SiteLabel::ErrorCountOrTitle, PageTitle);
+  view_.SetLabel(
+      SiteLabel::PageCountOrWeight,
+      "Document weight (file size including images, etc.): " + NumberText(weight) + " bytes");
+  view_.SetLabel(SiteLabel::PageSize, NumberText(pageSize) + " bytes");
   if (std::string date = FileDateText(CurrentPage); !date.empty()) {
-    view_.SetLabel(SiteLabel::Label10, date);
+    view_.SetLabel(SiteLabel::FileDate, date);
   }
   SplitDownloadTime(weight / 1800);
-  view_.SetLabel(SiteLabel::Label12, NumberText(DownloadMinutes) + " minutes " +
-                                         NumberText(DownloadSeconds) + " seconds");
+  view_.SetLabel(SiteLabel::DownloadTime, NumberText(DownloadMinutes) + " minutes " +
+                                              NumberText(DownloadSeconds) + " seconds");
   view_.StopAnimation();
   view_.SetStatusText("Done!");
 }
@@ -78,6 +79,10 @@ void SiteAnalyser::ExtractPageLink(const std::string& token, const std::string& 
 }
 
 void SiteAnalyser::ClassifyPageLink(const std::string& token, const std::string& delimiter) {
+  if (standardResolution && delimiter != kTitleEnd) {
+    ClassifyStandardPageLink(token);
+    return;
+  }
   BasePath = dir1_;
   if (!LinkTarget.empty() && (LinkTarget.front() == '\\' || LinkTarget.front() == '/')) {
     // Taken from the page's own folder, not from a site root.
@@ -146,7 +151,7 @@ void SiteAnalyser::ClassifyPageLink(const std::string& token, const std::string&
 void SiteAnalyser::ReadLinkedPageTitle() {
   LinkedTitle.clear();
   if (!LinkTarget.ends_with("htm") && !LinkTarget.ends_with("html")) return;
-  std::optional<std::string> text = ReadFileText(LinkPath(LinkTarget));
+  std::optional<std::string> text = ReadText(LinkPath(LinkTarget));
   if (!text) {
     view_.ShowMessage(BasePath + LinkTarget + "Can't open file: ");
     return;

@@ -48,7 +48,7 @@ std::string TenBlanksAnd(std::string_view text) {
 
 }  // namespace
 
-void SiteAnalyser::SetText1(std::string text) {
+void SiteAnalyser::SetPageText(std::string text) {
   text1_ = std::move(text);
   upper1_ = UpperAscii(text1_);
   text1Anchors_.reset();
@@ -57,13 +57,26 @@ void SiteAnalyser::SetText1(std::string text) {
 void SiteAnalyser::ResetRun() {
   parsed_.clear();
   known_.clear();
-  spellings_.clear();
+  queuedFiles_.clear();
   anchorCache_.clear();
   anchorCacheBytes_ = 0;
 }
 
+std::optional<std::string> SiteAnalyser::ReadText(const std::string& path) {
+  ++fileReads_;
+  bool cut = false;
+  std::optional<std::string> text = ReadFileText(path, kMaxPageTextBytes, &cut);
+  if (text && cut) {
+    // Said, so that a page half checked is never taken for a page checked whole.
+    const std::string megabytes = std::to_string(kMaxPageTextBytes / (1024 * 1024));
+    view_.ShowMessage(path + " is larger than " + megabytes + " MB: only its first " + megabytes +
+                      " MB were checked.");
+  }
+  return text;
+}
+
 void SiteAnalyser::LoadPageText(const std::string& path) {
-  std::optional<std::string> text = ReadFileText(path);
+  std::optional<std::string> text = ReadText(path);
   if (!text) {
     view_.ShowMessage("Can't open file: " + path);
     return;
@@ -99,9 +112,9 @@ void SiteAnalyser::StripComments() {
     ScanFresh = false;
   }
   if (foundAny) {
-    SetText1(std::move(result));
+    SetPageText(std::move(result));
   } else {
-    SetText1(std::move(text1_));
+    SetPageText(std::move(text1_));
   }
   ScanPos = 0;
   ScanFresh = true;
@@ -149,9 +162,10 @@ void SiteAnalyser::MoveCursorPast(const LinkMatch& match) {
 }
 
 void SiteAnalyser::UpdateCountLabels() {
-  view_.SetLabel(SiteLabel::Label4, NumberText(ErrorCount) + " Errors in Site");
-  view_.SetLabel(SiteLabel::Label5, "Number of pages in site: " +
-                                        NumberText(static_cast<std::int64_t>(parsed_.size())));
+  view_.SetLabel(SiteLabel::ErrorCountOrTitle, NumberText(ErrorCount) + " Errors in Site");
+  view_.SetLabel(
+      SiteLabel::PageCountOrWeight,
+      "Number of pages in site: " + NumberText(static_cast<std::int64_t>(parsed_.size())));
 }
 
 void SiteAnalyser::AddIndexPage() {
@@ -169,41 +183,48 @@ const AnchorIndex& SiteAnalyser::Text1Anchors() {
   return *text1Anchors_;
 }
 
-// The anchor test of a link cut at its "#": in Text1 when nothing stands before the "#",
+// The anchor test of a link cut at its "#": in the page text when nothing stands before the "#",
 // else in the file it names, upper-cased. False when that file could not be read.
 bool SiteAnalyser::LookUpAnchor(const std::string& anchor, bool& found) {
   const std::string upperAnchor = UpperAscii(anchor);
   if (LinkTarget.empty()) {
-    found = AnchorIndex::Answers(upperAnchor) ? Text1Anchors().HoldsAnchor(upperAnchor)
-                                              : TextHoldsAnchor(upper1_, upperAnchor);
+    found = Text1Anchors().HoldsAnchor(upperAnchor, upper1_);
     return true;
   }
+  const bool needsText = AnchorIndex::NeedsText(upperAnchor);
   const std::string path = LinkPath(LinkTarget);
   auto cached = anchorCache_.find(path);
-  if (cached != anchorCache_.end() && AnchorIndex::Answers(upperAnchor)) {
-    found = cached->second.HoldsAnchor(upperAnchor);
+  if (cached != anchorCache_.end() && (!needsText || cached->second.keepsText)) {
+    found = cached->second.index.HoldsAnchor(upperAnchor, cached->second.upperText);
     return true;
   }
   if (!FileExistsForRead(path)) {
     found = false;  // the content is the empty text
     return true;
   }
-  std::optional<std::string> text = ReadFileText(path);
+  std::optional<std::string> text = ReadText(path);
   if (!text) {
     view_.ShowMessage("Can't open file: " + path);
     return false;
   }
-  const std::string upper = UpperAscii(*text);
-  AnchorIndex index(upper);
-  found = AnchorIndex::Answers(upperAnchor) ? index.HoldsAnchor(upperAnchor)
-                                            : TextHoldsAnchor(upper, upperAnchor);
+  std::string upper = UpperAscii(*text);
+  text.reset();
   if (cached == anchorCache_.end()) {
+    AnchorIndex index(upper);
     if (anchorCacheBytes_ + index.Bytes() > kAnchorCacheBudget) {
       anchorCache_.clear();
       anchorCacheBytes_ = 0;
     }
     anchorCacheBytes_ += index.Bytes() + path.size();
-    anchorCache_.emplace(path, std::move(index));
+    cached = anchorCache_.emplace(path, CachedAnchors{std::move(index), {}, false}).first;
+  }
+  if (needsText) {
+    anchorCacheBytes_ += upper.size();
+    cached->second.upperText = std::move(upper);
+    cached->second.keepsText = true;
+    found = cached->second.index.HoldsAnchor(upperAnchor, cached->second.upperText);
+  } else {
+    found = cached->second.index.HoldsAnchor(upperAnchor);
   }
   return true;
 }
@@ -235,6 +256,12 @@ void SiteAnalyser::ExtractNextLink(const std::string& token, const std::string& 
   }
   const std::string rawLink = LinkTarget;
   report_.LinkLine(TenBlanksAnd(rawLink));
+  if (standardResolution && token != kTitle) {
+    CheckStandardLink(rawLink);
+    MoveCursorPast(match);
+    UpdateCountLabels();
+    return;
+  }
   if (token != kTitle && !IsRemote(LinkTarget, false)) NormalizeLinkPath();
   AddIndexPage();
 
@@ -288,11 +315,7 @@ void SiteAnalyser::CheckCrawlLink(const std::string& rawLink) {
 
 void SiteAnalyser::QueuePage(const std::string& path, std::optional<FileId> id) {
   if (known_.count(path)) return;
-  if (id) {
-    int& spellings = spellings_[*id];
-    if (spellings >= kMaxSpellingsPerFile) return;
-    ++spellings;
-  }
+  if (id && !queuedFiles_.insert(*id).second) return;
   // A deque keeps its strings in place, so the set can look at them.
   parsed_.push_back(path);
   known_.insert(parsed_.back());
@@ -364,8 +387,8 @@ void SiteAnalyser::AnalyseSite(const std::string& folder, const std::string& fil
   ErrorCount = 0;
   view_.SetMode("Site");
   view_.StartAnimation();
-  view_.SetLabel(SiteLabel::Label5, "Number of pages in site:");
-  view_.SetLabel(SiteLabel::Label2, "Results:");
+  view_.SetLabel(SiteLabel::PageCountOrWeight, "Number of pages in site:");
+  view_.SetLabel(SiteLabel::ResultsHeading, "Results:");
   view_.SetCaption("Site Tolmer - " + PageTitle);
   ResetRun();
   view_.ClearRows();
@@ -387,9 +410,10 @@ void SiteAnalyser::AnalyseSite(const std::string& folder, const std::string& fil
 
   Cursor = 0;
   ScanDone = false;
-  for (std::size_t i = 1; i < parsed_.size() && !parsed_[i].empty(); ++i) {
+  for (std::size_t i = 1; i < parsed_.size() && !parsed_[i].empty() && !view_.CancelRequested();
+       ++i) {
     CurrentPage = parsed_[i];
-    view_.SetLabel(SiteLabel::Label3, CurrentPage);
+    view_.SetLabel(SiteLabel::CurrentPage, CurrentPage);
     view_.SetStatusText("Opening file for parsing...");
     LoadPageText(CurrentPage);
     for (int k = 0; k < 2; ++k) {
@@ -413,12 +437,20 @@ void SiteAnalyser::AnalyseSite(const std::string& folder, const std::string& fil
   }
   report_.Close();
 
-  view_.SetLabel(SiteLabel::Label3, "");
+  view_.SetLabel(SiteLabel::CurrentPage, "");
   view_.SetStatusText("Done!");
-  view_.SetLabel(SiteLabel::Label4, NumberText(ErrorCount) + " Errors in Site");
-  view_.SetLabel(SiteLabel::Label5, "Number of page in site: " +
-                                        NumberText(static_cast<std::int64_t>(parsed_.size())));
+  view_.SetLabel(SiteLabel::ErrorCountOrTitle, NumberText(ErrorCount) + " Errors in Site");
+  view_.SetLabel(
+      SiteLabel::PageCountOrWeight,
+      "Number of page in site: " + NumberText(static_cast<std::int64_t>(parsed_.size())));
   view_.StopAnimation();
+  if (!report_.Failure().empty()) {
+    view_.ShowMessage(
+        "Web site analysis is complete, but its reports could not be written in the Web "
+        "site's main folder (" +
+        SiteRoot + "):\n" + report_.Failure());
+    return;
+  }
   view_.ShowMessage(
       "Web site analysis is complete.  Refer to the following files\n"
       " in the Web site's main folder (" +

@@ -21,15 +21,11 @@ namespace tessarine {
 
 class SiteAnalyser {
  public:
-  // A file reached under more spellings than this ("a.html", "./a.html", "loop/a.html"...)
-  // is not queued again: what keeps a crawl through symlink loops and "./" chains finite.
-  static constexpr int kMaxSpellingsPerFile = 8;
-
   explicit SiteAnalyser(SiteAnalyserView& view) : view_(view) {}
 
-  // Command2 "&Check Site" for the page `fileName` selected in File1 of the folder Dir1.
+  // "&Check Site": the site reached from the page `fileName` in `folder`.
   void AnalyseSite(const std::string& folder, const std::string& fileName);
-  // A page selected in File1.
+  // One page chosen in the file list.
   void AnalysePage(const std::string& folder, const std::string& fileName);
 
   void LoadPageText(const std::string& path);
@@ -41,10 +37,18 @@ class SiteAnalyser {
   void ReadLinkedPageTitle();
   void SplitDownloadTime(std::int64_t units);
 
-  // Text1: the current page's text (comments stripped once loaded).
-  const std::string& Text1() const { return text1_; }
-  void SetText1(std::string text);
+  // The current page's text (comments stripped once loaded).
+  const std::string& PageText() const { return text1_; }
+  void SetPageText(std::string text);
   const std::deque<std::string>& ParsedFilesList() const { return parsed_; }
+  // Why the last site run's report files are missing or incomplete; empty when written.
+  const std::string& ReportFailure() const { return report_.Failure(); }
+  // How many times a file was read as text since this analyser was made.
+  std::int64_t FileReads() const { return fileReads_; }
+
+  // Links resolved as a browser does (each against its own page's folder, %-escapes
+  // decoded, ID= and NAME= both anchors) instead of by the analyser's own rules.
+  bool standardResolution = false;
 
   // Working state of a run, named as the window's code names it.
   std::string LinkTarget;
@@ -55,7 +59,7 @@ class SiteAnalyser {
   std::string LinkedTitle;
   std::int64_t ErrorCount = 0;
   bool ScanDone = false;
-  std::int64_t Cursor = 0;  // the caret of Text1, zero-based
+  std::int64_t Cursor = 0;  // the caret in the page text, zero-based
   std::int64_t ScanPos = 0;
   bool ScanFresh = true;
   std::int64_t DocumentWeight = 0;
@@ -78,28 +82,42 @@ class SiteAnalyser {
   bool LookUpAnchor(const std::string& anchor, bool& found);
   const AnchorIndex& Text1Anchors();
   void ReportError(const std::string& rawLink, const char* kind, int icon);
+  // Standard mode (StandardLinks.cpp).
+  void CheckStandardLink(const std::string& rawLink);
+  void ClassifyStandardPageLink(const std::string& token);
+  bool StandardAnchorFound(const std::string& path, const std::string& anchor);
   void TakePageTitle(bool crawl);
   void CheckCrawlLink(const std::string& rawLink);
   void QueuePage(const std::string& path, std::optional<FileId> id);
+  std::optional<std::string> ReadText(const std::string& path);
   void ParseTokens(bool firstPage);
   void ResetRun();
 
   SiteAnalyserView& view_;
   SiteReport report_;
   std::string text1_;
-  std::string upper1_;  // Text1 upper-cased once per page, not once per search
+  std::string upper1_;  // The page text upper-cased once per page, not once per search
   std::optional<AnchorIndex> text1Anchors_;
   std::string dir1_;  // the folder of the page analysed alone, closing "/" included
 
   // ParsedFilesList is the queue and the set of known pages: the set answers the exact
-  // duplicate test without a walk through the list.
+  // duplicate test without a walk through the list. A file is queued once, whatever
+  // spelling reaches it ("a.html", "./a.html", "loop/a.html"): what keeps a crawl through
+  // symbolic link loops and "./" chains finite and each page counted once.
   std::deque<std::string> parsed_;
   std::unordered_set<std::string_view> known_;
-  std::unordered_map<FileId, int, FileIdHash> spellings_;
+  std::unordered_set<FileId, FileIdHash> queuedFiles_;
 
-  // Anchors of linked pages, so that a page's file is read once per run, not once per link.
-  std::unordered_map<std::string, AnchorIndex> anchorCache_;
+  // Anchors of linked pages, so that a page's file is read once per run, not once per
+  // link. The text itself is kept too once an anchor too long for the index is asked.
+  struct CachedAnchors {
+    AnchorIndex index;
+    std::string upperText;
+    bool keepsText = false;
+  };
+  std::unordered_map<std::string, CachedAnchors> anchorCache_;
   std::size_t anchorCacheBytes_ = 0;
+  std::int64_t fileReads_ = 0;
 };
 
 }  // namespace tessarine

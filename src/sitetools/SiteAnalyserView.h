@@ -9,8 +9,17 @@
 
 namespace tessarine {
 
-// The labels of SiteMngr that the analyser writes.
-enum class SiteLabel { Label2, Label3, Label4, Label5, Label9, Label10, Label12 };
+// The labels of the site manager's information frame that the analyser writes. Two of them
+// say one thing after a site check and another after a page analysis.
+enum class SiteLabel {
+  ResultsHeading,     // "Results:" or "File Title:"
+  CurrentPage,        // the page being parsed during a site check
+  ErrorCountOrTitle,  // " 3 Errors in Site", or the page's title
+  PageCountOrWeight,  // the number of pages, or the document weight
+  PageSize,           // the page's own size
+  FileDate,           // the page's date and time
+  DownloadTime,       // minutes and seconds on a 28.8 modem
+};
 
 // One row of ListView1: the item text, its sub-items in column order, the small icon.
 struct SiteRow {
@@ -43,6 +52,8 @@ class SiteAnalyserView {
     (void)parsed;
     (void)known;
   }
+  // Asked between two pages of a crawl: true stops it there.
+  virtual bool CancelRequested() { return false; }
 };
 
 }  // namespace tessarine

@@ -45,7 +45,8 @@ std::int64_t FileLength(const std::string& path) {
   return static_cast<std::int64_t>(info.st_size);
 }
 
-std::optional<std::string> ReadFileText(const std::string& path, std::int64_t maxBytes) {
+std::optional<std::string> ReadFileText(const std::string& path, std::int64_t maxBytes, bool* cut) {
+  if (cut) *cut = false;
   struct stat info;
   int fd = OpenRegular(path, &info);
   if (fd < 0) return std::nullopt;
@@ -69,6 +70,14 @@ std::optional<std::string> ReadFileText(const std::string& path, std::int64_t ma
     }
     if (got == 0) break;
     used += got;
+  }
+  if (!failed && used >= maxBytes && cut) {
+    // One byte more says whether the file goes on.
+    char probe;
+    ssize_t more;
+    while ((more = ::read(fd, &probe, 1)) < 0 && errno == EINTR) {
+    }
+    *cut = more > 0;
   }
   ::close(fd);
   if (failed) return std::nullopt;

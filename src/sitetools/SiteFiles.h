@@ -34,8 +34,10 @@ std::optional<FileId> ReadableFileId(const std::string& path);
 // Size in bytes, or -1 on failure.
 std::int64_t FileLength(const std::string& path);
 // The file's bytes, at most maxBytes of them; nothing when it cannot be opened or read.
+// `cut`, when given, tells whether the file went on beyond maxBytes.
 std::optional<std::string> ReadFileText(const std::string& path,
-                                        std::int64_t maxBytes = kMaxPageTextBytes);
+                                        std::int64_t maxBytes = kMaxPageTextBytes,
+                                        bool* cut = nullptr);
 // Modification date and time as "m/d/yyyy h:mm:ss AM"; empty on failure.
 std::string FileDateText(const std::string& path);
 

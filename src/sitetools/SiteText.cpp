@@ -58,28 +58,36 @@ AnchorIndex::AnchorIndex(std::string_view upperText) {
   static constexpr std::string_view kName = "NAME=";
   for (std::size_t at = upperText.find(kName); at != std::string_view::npos;
        at = upperText.find(kName, at + 1)) {
-    keys_.emplace_back(upperText.substr(at + kName.size(), kKeyLength));
+    const std::size_t offset = at + kName.size();
+    keys_.push_back(Key{std::string(upperText.substr(offset, kKeyLength)), offset});
   }
-  std::sort(keys_.begin(), keys_.end());
+  std::sort(keys_.begin(), keys_.end(),
+            [](const Key& a, const Key& b) { return a.start < b.start; });
 }
 
-bool AnchorIndex::HoldsNameFollowedBy(std::string_view what) const {
-  // The keys that start with `what` sort right at or after it.
-  auto it = std::lower_bound(keys_.begin(), keys_.end(), what,
-                             [](const std::string& key, std::string_view w) { return key < w; });
-  return it != keys_.end() && std::string_view(*it).substr(0, what.size()) == what;
+bool AnchorIndex::HoldsNameFollowedBy(std::string_view what, std::string_view upperText) const {
+  // The keys that start with `what` (or with its first kKeyLength characters) sort right at
+  // or after it, side by side.
+  const std::string_view head = what.substr(0, kKeyLength);
+  auto it = std::lower_bound(keys_.begin(), keys_.end(), head,
+                             [](const Key& key, std::string_view h) { return key.start < h; });
+  for (; it != keys_.end() && std::string_view(it->start).substr(0, head.size()) == head; ++it) {
+    if (what.size() <= kKeyLength) return true;
+    if (upperText.substr(std::min(it->offset, upperText.size()), what.size()) == what) return true;
+  }
+  return false;
 }
 
-bool AnchorIndex::HoldsAnchor(std::string_view upperAnchor) const {
+bool AnchorIndex::HoldsAnchor(std::string_view upperAnchor, std::string_view upperText) const {
   std::string quoted = "\"";
   quoted += upperAnchor;
   quoted += '"';
-  return HoldsNameFollowedBy(upperAnchor) || HoldsNameFollowedBy(quoted);
+  return HoldsNameFollowedBy(upperAnchor, upperText) || HoldsNameFollowedBy(quoted, upperText);
 }
 
 std::size_t AnchorIndex::Bytes() const {
   std::size_t bytes = sizeof(AnchorIndex);
-  for (const std::string& key : keys_) bytes += sizeof(std::string) + key.capacity();
+  for (const Key& key : keys_) bytes += sizeof(Key) + key.start.capacity();
   return bytes;
 }
 

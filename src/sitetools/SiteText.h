@@ -22,22 +22,30 @@ std::string NumberText(std::int64_t value);
 std::string NativeSeparators(std::string text);
 
 // Answers "does the upper-cased content hold "NAME=" followed by the anchor?" for every
-// anchor link to a page without searching the whole page once per link. It keeps only the
-// start of the text after each "NAME=", so a very long anchor needs the text itself.
+// anchor link to a page without searching the whole page once per link. It keeps the start
+// of the text after each "NAME=" and where it stood, so an anchor longer than that start is
+// told by comparing the candidates with the text itself.
 class AnchorIndex {
  public:
   static constexpr std::size_t kKeyLength = 128;
 
   AnchorIndex() = default;
   explicit AnchorIndex(std::string_view upperText);
-  static bool Answers(std::string_view upperAnchor) { return upperAnchor.size() + 2 <= kKeyLength; }
-  // Only when Answers(upperAnchor).
-  bool HoldsAnchor(std::string_view upperAnchor) const;
+  // True when HoldsAnchor needs the indexed text for this anchor.
+  static bool NeedsText(std::string_view upperAnchor) {
+    return upperAnchor.size() + 2 > kKeyLength;
+  }
+  // `upperText` is the text the index was made from; read only when NeedsText.
+  bool HoldsAnchor(std::string_view upperAnchor, std::string_view upperText = {}) const;
   std::size_t Bytes() const;
 
  private:
-  bool HoldsNameFollowedBy(std::string_view what) const;
-  std::vector<std::string> keys_;  // sorted
+  struct Key {
+    std::string start;       // up to kKeyLength characters after "NAME="
+    std::size_t offset = 0;  // where they stand in the text
+  };
+  bool HoldsNameFollowedBy(std::string_view what, std::string_view upperText) const;
+  std::vector<Key> keys_;  // sorted by start
 };
 
 // The anchor test itself: "NAME=" and the anchor, or "NAME=" and the anchor in double quotes.

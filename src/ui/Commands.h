@@ -1,14 +1,25 @@
 #pragma once
 // The main window's menus and toolbar buttons, filled subsystem by subsystem. Each
-// builder adds its own entries to the menus MDIForm1 made and binds its own buttons.
+// builder adds its own entries to the menus MainWindow made and binds its own buttons.
 
 namespace tessarine {
 
-class MDIForm1;
+class MainWindow;
 
-void BuildFileCommands(MDIForm1& frame);     // File menu, New/Open/Save buttons
-void BuildEditCommands(MDIForm1& frame);     // Edit menu, clipboard and Find buttons
-void BuildTagCommands(MDIForm1& frame);      // Insert and Format menus, tag buttons
-void BuildProgramCommands(MDIForm1& frame);  // browsers, external programs, printing
+void BuildFileCommands(MainWindow& frame);         // File menu, New/Open/Save buttons
+void BuildEditCommands(MainWindow& frame);         // Edit menu, clipboard and Find buttons
+void BuildTagCommands(MainWindow& frame);          // Insert and Format menus, tag buttons
+void BuildProgramCommands(MainWindow& frame);      // browsers, external programs, printing
+void BuildStyleCommands(MainWindow& frame);        // style editor, style manager
+void BuildLinkImageCommands(MainWindow& frame);    // links, anchors, mail links, images, maps
+void BuildListTableCommands(MainWindow& frame);    // lists, conversion, table wizard
+void BuildFrameFormCommands(MainWindow& frame);    // frames, forms, applets, media
+void BuildEffectCommands(MainWindow& frame);       // special effects
+void BuildSiteManagerCommands(MainWindow& frame);  // site manager, global replace, projects
+void BuildSiteToolCommands(MainWindow& frame);     // log statistics, tidy, stripper, spelling
+void BuildSettingsCommands(MainWindow& frame);     // preferences, menu systems, help
+void BuildEditTagCommands(MainWindow& frame);      // page properties, Edit Tag
+// Last: icons, toolbar style, view choices, the window list, About.
+void BuildViewCommands(MainWindow& frame);
 
 }  // namespace tessarine

@@ -9,28 +9,29 @@
 #include "core/Find.h"
 #include "ui/Commands.h"
 #include "ui/FindReplace.h"
-#include "ui/MDIForm1.h"
+#include "ui/MainWindow.h"
 
 namespace tessarine {
 
 namespace {
 
 // The dialog is made on first use and lives beside the frame from then on.
-frmFindReplace& FindDialog(MDIForm1& frame) {
-  auto* dialog = frame.findChild<frmFindReplace*>("frmFindReplace", Qt::FindDirectChildrenOnly);
-  if (!dialog) dialog = new frmFindReplace(*frame.App(), &frame);
+FindReplaceDialog& FindDialog(MainWindow& frame) {
+  auto* dialog =
+      frame.findChild<FindReplaceDialog*>("FindReplaceDialog", Qt::FindDirectChildrenOnly);
+  if (!dialog) dialog = new FindReplaceDialog(*frame.App(), &frame);
   return *dialog;
 }
 
-void ShowFindDialog(MDIForm1& frame, bool replace) {
+void ShowFindDialog(MainWindow& frame, bool replace) {
   if (frame.App() && frame.App()->ActiveEdit()) FindDialog(frame).ShowFor(replace);
 }
 
-void FindNext(MDIForm1& frame) {
+void FindNext(MainWindow& frame) {
   if (frame.App() && !mnuSFindNext(*frame.App())) ShowFindDialog(frame, false);
 }
 
-void FindFromBox(MDIForm1& frame) {
+void FindFromBox(MainWindow& frame) {
   Application* app = frame.App();
   QComboBox* box = frame.FindCombo();
   if (!app || !app->ActiveEdit() || box->currentText().isEmpty()) return;
@@ -46,12 +47,12 @@ void FindFromBox(MDIForm1& frame) {
 
 }  // namespace
 
-void BuildEditCommands(MDIForm1& frame) {
+void BuildEditCommands(MainWindow& frame) {
   QMenu* edit = frame.Menu("mnuEdit");
-  MDIForm1* f = &frame;
+  MainWindow* f = &frame;
   const auto command = [&frame, edit](const char* name, const char* caption,
                                       void (*run)(Application&), QKeySequence keys) {
-    MDIForm1* fp = &frame;
+    MainWindow* fp = &frame;
     QAction* a = frame.AddCommand(edit, name, caption, true, [fp, run] {
       if (fp->App()) run(*fp->App());
     });
@@ -62,6 +63,8 @@ void BuildEditCommands(MDIForm1& frame) {
   const auto separator = [&frame, edit] { frame.AddDocumentOnlyCommand(edit->addSeparator()); };
 
   command("mnuUndo", "&Undo", mnuUndo, QKeySequence::Undo);
+  command("mnuRedo", "R&edo", mnuRedo, QKeySequence("Ctrl+Y"))
+      ->setShortcuts({QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")});
   separator();
   command("cut", "Cu&t", mnuCut, QKeySequence::Cut);
   command("copy", "&Copy", mnuCopy, QKeySequence::Copy);

@@ -11,10 +11,10 @@
 #include "core/FileSave.h"
 #include "core/NewDocument.h"
 #include "ui/Commands.h"
-#include "ui/MDIForm1.h"
+#include "ui/MainWindow.h"
 #include "ui/files/RecentFileMenu.h"
-#include "ui/files/frmTemplates.h"
-#include "ui/files/frmXMLdoc.h"
+#include "ui/files/TemplatesDialog.h"
+#include "ui/files/XmlDocumentDialog.h"
 
 namespace tessarine {
 
@@ -22,7 +22,7 @@ namespace {
 
 // Runs a file command on the application once it is there, then lets the menus follow the
 // count of documents.
-std::function<void()> Run(MDIForm1* f, void (*command)(Application&)) {
+std::function<void()> Run(MainWindow* f, void (*command)(Application&)) {
   return [f, command] {
     if (!f->App()) return;
     command(*f->App());
@@ -30,21 +30,21 @@ std::function<void()> Run(MDIForm1* f, void (*command)(Application&)) {
   };
 }
 
-void ShowTemplates(MDIForm1& frame) {
+void ShowTemplates(MainWindow& frame) {
   if (!frame.App()) return;
-  frmTemplates dialog(*frame.App(), &frame);
+  TemplatesDialog dialog(*frame.App(), &frame);
   dialog.exec();
   frame.UpdateMenusForDocumentCount();
 }
 
-void NewFromButton(MDIForm1& frame, const char* kind) {
+void NewFromButton(MainWindow& frame, const char* kind) {
   Application* app = frame.App();
   if (!app) return;
   NewDocument(*app, kind);
   frame.UpdateMenusForDocumentCount();
 }
 
-void NewButton(MDIForm1& frame) {
+void NewButton(MainWindow& frame) {
   Application* app = frame.App();
   if (!app) return;
   NewFromButton(frame, "HTML");
@@ -55,7 +55,7 @@ void NewButton(MDIForm1& frame) {
     pageProps->trigger();
 }
 
-void AddNewDropDown(MDIForm1& frame) {
+void AddNewDropDown(MainWindow& frame) {
   QAction* newButton = frame.Button("tbrFile", "New");
   QToolBar* bar = frame.Toolbar("tbrFile");
   auto* button = bar ? qobject_cast<QToolButton*>(bar->widgetForAction(newButton)) : nullptr;
@@ -67,7 +67,7 @@ void AddNewDropDown(MDIForm1& frame) {
                                                        {"CSS document", "CSS"},
                                                        {"XML document", "XML"},
                                                        {"XSL document", "XSL"}};
-  MDIForm1* f = &frame;
+  MainWindow* f = &frame;
   for (const auto& [caption, key] : items) {
     QAction* a = menu->addAction(caption);
     a->setObjectName(QString("tbrFileNew/") + key);
@@ -79,12 +79,12 @@ void AddNewDropDown(MDIForm1& frame) {
 }
 
 // What this layer asks of the windows, given once the application is there.
-void ConnectApplication(MDIForm1& frame, QTimer* timerAutoSave) {
+void ConnectApplication(MainWindow& frame, QTimer* timerAutoSave) {
   Application* app = frame.App();
   if (!app) return;
-  MDIForm1* f = &frame;
+  MainWindow* f = &frame;
   app->files.onRecentMenuChanged = [f] { ShowRecentFileEntries(*f); };
-  app->files.showXmlDocDialog = [f](XmlDocInputs& in) { return frmXMLdoc::Ask(f, in); };
+  app->files.showXmlDocDialog = [f](XmlDocInputs& in) { return XmlDocumentDialog::Ask(f, in); };
   // "Apply Style..." and "Insert Inline Style..." have no use in a style sheet.
   app->files.enableStyleInserts = [f](bool enabled) {
     for (const char* name : {"mnuCSSsub1", "mnuCSSsub2"})
@@ -96,9 +96,9 @@ void ConnectApplication(MDIForm1& frame, QTimer* timerAutoSave) {
 
 }  // namespace
 
-void BuildFileCommands(MDIForm1& frame) {
+void BuildFileCommands(MainWindow& frame) {
   QMenu* file = frame.Menu("mnuFile");
-  MDIForm1* f = &frame;
+  MainWindow* f = &frame;
   frame.AddCommand(file, "mnuNewFile", "&New...", false, [f] { ShowTemplates(*f); })
       ->setShortcut(QKeySequence::New);
   frame.AddCommand(file, "FileOpen", "&Open...", false, Run(f, OpenFileDialog))
@@ -106,7 +106,7 @@ void BuildFileCommands(MDIForm1& frame) {
   QMenu* projects = file->addMenu("&Projects");
   projects->setObjectName("mnuProjects");
   projects->setEnabled(false);
-  QMenu* import = file->addMenu("&Import");
+  QMenu* import = file->addMenu("I&mport");
   import->setObjectName("mnuImport");
   frame.AddCommand(import, "mnuOpenMac", "&Mac File...", false,
                    Run(f, [](Application& a) { ImportForeignFile(a, "Mac"); }));
@@ -123,7 +123,7 @@ void BuildFileCommands(MDIForm1& frame) {
   QAction* save = frame.AddCommand(file, "FileSave", "&Save", true,
                                    Run(f, [](Application& a) { FileSaveCommand(a, false); }));
   save->setShortcut(QKeySequence::Save);
-  QAction* saveAs = frame.AddCommand(file, "FileSaveAs", "Save &As...", true,
+  QAction* saveAs = frame.AddCommand(file, "FileSaveAs", "Sa&ve As...", true,
                                      Run(f, [](Application& a) { FileSaveCommand(a, true); }));
   QAction* mac = frame.AddCommand(file, "mnuMacSave", "Save As M&ac format...", true,
                                   Run(f, [](Application& a) { ExportForeignFile(a, "Mac"); }));

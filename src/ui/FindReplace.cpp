@@ -12,15 +12,15 @@
 #include <QVBoxLayout>
 
 #include "core/Application.h"
-#include "ui/Form2.h"
+#include "ui/DocumentForm.h"
 #include "ui/SciEdit.h"
 
 namespace tessarine {
 
 namespace {
 bool ActiveIsUtf8(Application& app) {
-  auto* form = dynamic_cast<Form2*>(app.ActiveDocument());
-  return !form || form->RichTextBox1().isUtf8();
+  auto* form = dynamic_cast<DocumentForm*>(app.ActiveDocument());
+  return !form || form->Editor().isUtf8();
 }
 }  // namespace
 
@@ -34,16 +34,16 @@ std::string QtTextToDocument(Application& app, const QString& text) {
   return (ActiveIsUtf8(app) ? text.toUtf8() : text.toLatin1()).toStdString();
 }
 
-frmFindReplace::frmFindReplace(Application& app, QWidget* parent)
+FindReplaceDialog::FindReplaceDialog(Application& app, QWidget* parent)
     : QDialog(parent), app_(app), in_(LoadFindReplace(app)) {
-  setObjectName("frmFindReplace");
+  setObjectName("FindReplaceDialog");
   setWindowTitle("Find/Replace");
   setModal(false);
 
-  TabStrip1 = new QTabBar;
-  TabStrip1->setObjectName("TabStrip1");
-  TabStrip1->addTab("Find");
-  TabStrip1->addTab("Replace");
+  tabs = new QTabBar;
+  tabs->setObjectName("findTabs");
+  tabs->addTab("Find");
+  tabs->addTab("Replace");
 
   auto* lblFind = new QLabel("Fi&nd:");
   txtFind = new QLineEdit;
@@ -92,11 +92,11 @@ frmFindReplace::frmFindReplace(Application& app, QWidget* parent)
   body->addLayout(fields, 1);
   body->addLayout(buttons);
   auto* layout = new QVBoxLayout(this);
-  layout->addWidget(TabStrip1);
+  layout->addWidget(tabs);
   layout->addLayout(body);
 
   Push();
-  connect(TabStrip1, &QTabBar::currentChanged, this, [this](int i) { ShowTab(i); });
+  connect(tabs, &QTabBar::currentChanged, this, [this](int i) { ShowTab(i); });
   connect(chkCase, &QCheckBox::toggled, this, [this](bool on) {
     in_.chkCase = on;
     app_.editing.find.FindMatchCase = on ? 1 : 0;
@@ -117,31 +117,38 @@ frmFindReplace::frmFindReplace(Application& app, QWidget* parent)
   });
   connect(cmdReplaceAllButton, &QPushButton::clicked, this, [this] {
     Pull();
-    if (cmdReplaceAll(app_, in_)) hide();
+    if (ReplaceAllAsOneStep(app_, in_)) hide();
   });
   connect(cmdCancelButton, &QPushButton::clicked, this, [this] { reject(); });
+  // What the Find tab hides keeps its room, so the fields stay put between the tabs.
+  for (QWidget* w : std::initializer_list<QWidget*>{lblReplace, txtReplace, cmdReplaceButton,
+                                                    cmdReplaceAllButton}) {
+    QSizePolicy p = w->sizePolicy();
+    p.setRetainSizeWhenHidden(true);
+    w->setSizePolicy(p);
+  }
   ShowTab(0);
 }
 
-void frmFindReplace::ShowFor(bool replace) {
+void FindReplaceDialog::ShowFor(bool replace) {
   Pull();
   PrepareFindDialog(app_, in_);
   Push();
-  TabStrip1->setCurrentIndex(replace ? 1 : 0);
-  ShowTab(TabStrip1->currentIndex());
+  tabs->setCurrentIndex(replace ? 1 : 0);
+  ShowTab(tabs->currentIndex());
   show();
   BringForward();
   txtFind->setFocus();
   txtFind->selectAll();
 }
 
-void frmFindReplace::reject() {
+void FindReplaceDialog::reject() {
   Pull();
   cmdCancel(app_, in_);
   QDialog::reject();
 }
 
-void frmFindReplace::ShowTab(int index) {
+void FindReplaceDialog::ShowTab(int index) {
   // The Find tab holds what searching needs; the Replace tab adds the replacing.
   const bool replace = index == 1;
   for (QWidget* w : std::initializer_list<QWidget*>{lblReplace, txtReplace, cmdReplaceButton,
@@ -149,21 +156,21 @@ void frmFindReplace::ShowTab(int index) {
     w->setVisible(replace);
 }
 
-void frmFindReplace::Pull() {
+void FindReplaceDialog::Pull() {
   in_.txtFind = QtTextToDocument(app_, txtFind->text());
   in_.txtReplace = QtTextToDocument(app_, txtReplace->text());
   in_.optDirectionDown = optDown->isChecked();
   in_.chkCase = chkCase->isChecked();
 }
 
-void frmFindReplace::Push() {
+void FindReplaceDialog::Push() {
   txtFind->setText(DocumentTextToQt(app_, in_.txtFind));
   txtReplace->setText(DocumentTextToQt(app_, in_.txtReplace));
   (in_.optDirectionDown ? optDown : optUp)->setChecked(true);
   chkCase->setChecked(in_.chkCase);
 }
 
-void frmFindReplace::BringForward() {
+void FindReplaceDialog::BringForward() {
   raise();
   activateWindow();
 }

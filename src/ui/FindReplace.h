@@ -17,10 +17,10 @@ namespace tessarine {
 
 class Application;
 
-class frmFindReplace : public QDialog {
+class FindReplaceDialog : public QDialog {
   Q_OBJECT
  public:
-  frmFindReplace(Application& app, QWidget* parent);
+  FindReplaceDialog(Application& app, QWidget* parent);
 
   // mnuSFind (`replace` false), mnuReplace and the toolbar's Find button.
   void ShowFor(bool replace);
@@ -37,7 +37,7 @@ class frmFindReplace : public QDialog {
 
   Application& app_;
   FindReplaceInputs in_;
-  QTabBar* TabStrip1;
+  QTabBar* tabs;
   QLineEdit* txtFind;
   QLineEdit* txtReplace;
   QLabel* lblReplace;

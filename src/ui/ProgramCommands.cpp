@@ -6,27 +6,27 @@
 #include "core/Application.h"
 #include "core/Preview.h"
 #include "ui/Commands.h"
-#include "ui/Form2.h"
-#include "ui/MDIForm1.h"
+#include "ui/DocumentForm.h"
+#include "ui/MainWindow.h"
 #include "ui/Printing.h"
 
 namespace tessarine {
 
 namespace {
 
-void Print(MDIForm1& frame) {
+void Print(MainWindow& frame) {
   Application* app = frame.App();
   if (!app || !ConfirmPrint(*app)) return;
-  auto* form = dynamic_cast<Form2*>(app->ActiveDocument());
+  auto* form = dynamic_cast<DocumentForm*>(app->ActiveDocument());
   if (!form) return;
   QsciPrinter printer;
-  PrintDocument(&frame, form->RichTextBox1(), printer);
+  PrintDocument(&frame, form->Editor(), printer);
 }
 
 }  // namespace
 
-void BuildProgramCommands(MDIForm1& frame) {
-  MDIForm1* f = &frame;
+void BuildProgramCommands(MainWindow& frame) {
+  MainWindow* f = &frame;
   auto browser = [f](const char* key) {
     return [f, key] {
       if (f->App()) ViewInBrowser(*f->App(), key);

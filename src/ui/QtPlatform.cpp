@@ -1,5 +1,7 @@
 #include "ui/QtPlatform.h"
 
+#include "platform/ImageHeader.h"
+
 #include <QClipboard>
 #include <QColorDialog>
 #include <QDateTime>
@@ -31,10 +33,10 @@ QString KeyPath(const std::string& section, const std::string& key) {
 
 // The file is found afresh each time: QSettings would keep the first XDG_CONFIG_HOME it saw.
 QtSettingsStore::QtSettingsStore()
-    : settings_(new QSettings(
-          QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-              "/Tessarine/Tessarine.ini",
-          QSettings::IniFormat)) {}
+    : settings_(
+          new QSettings(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                            "/Tessarine/Tessarine.ini",
+                        QSettings::IniFormat)) {}
 
 QtSettingsStore::~QtSettingsStore() {
   delete settings_;
@@ -124,7 +126,12 @@ QString QtFileDialogs::ToQtFilter(const std::string& filter, QStringList* list) 
   for (int i = 0; i + 1 < parts.size(); i += 2) {
     QString patterns = parts[i + 1];
     patterns.replace(QLatin1Char(';'), QLatin1Char(' '));
-    out << parts[i] + " (" + patterns + ")";
+    // Qt reads the patterns from the label's last brackets: a label that shows its own
+    // ("All Files (*.*)") gets the real ones there instead of a second pair.
+    QString label = parts[i].trimmed();
+    if (label.endsWith(QLatin1Char(')')) && label.lastIndexOf(QLatin1Char('(')) > 0)
+      label = label.left(label.lastIndexOf(QLatin1Char('('))).trimmed();
+    out << label + " (" + patterns + ")";
   }
   if (list) *list = out;
   return out.join(";;");
@@ -208,9 +215,19 @@ void QtClipboard::SetText(const std::string& text) {
 }
 
 bool QtImageInfo::Size(const std::string& path, int& width, int& height) {
+  // The four formats of the web are read from their headers; others through Qt's readers,
+  // which also stop at the header for their size.
+  const ImageHeader header = ReadImageFileHeader(path);
+  if (header.status != ImageHeader::Status::NotAPicture || !header.format.empty()) {
+    if (!header.ok()) return false;
+    width = header.width;
+    height = header.height;
+    return true;
+  }
   QImageReader reader(Q(path));
   const QSize size = reader.size();
-  if (!size.isValid()) return false;
+  if (!size.isValid() || size.width() > kLargestImageSide || size.height() > kLargestImageSide)
+    return false;
   width = size.width();
   height = size.height();
   return true;

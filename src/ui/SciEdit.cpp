@@ -1,5 +1,8 @@
 #include "ui/SciEdit.h"
 
+#include <Qsci/qscicommand.h>
+#include <Qsci/qscicommandset.h>
+
 #include <QEvent>
 
 #include <algorithm>
@@ -89,6 +92,21 @@ SciEdit::SciEdit(QWidget* parent) : QsciScintilla(parent) {
   Send(SCI_SETEOLMODE, SC_EOL_CRLF);
   Send(SCI_SETPASTECONVERTENDINGS, 1);
   Send(SCI_SETWRAPMODE, SC_WRAP_NONE);
+  // Undo and redo keys reach the Edit menu, whose commands go through Undo and Redo here.
+  for (auto command : {QsciCommand::Undo, QsciCommand::Redo}) {
+    if (QsciCommand* c = standardCommands()->find(command)) {
+      c->setKey(0);
+      c->setAlternateKey(0);
+    }
+  }
+  // The selection looks the same whether or not the window is the active one, as it does
+  // in the desktop's other editors.
+  QPalette p = palette();
+  for (auto role : {QPalette::Highlight, QPalette::HighlightedText})
+    p.setColor(QPalette::Inactive, role, p.color(QPalette::Active, role));
+  setPalette(p);
+  connect(this, &QsciScintillaBase::SCN_SAVEPOINTLEFT, this, &SciEdit::ModifiedChanged);
+  connect(this, &QsciScintillaBase::SCN_SAVEPOINTREACHED, this, &SciEdit::ModifiedChanged);
 }
 
 void SciEdit::ApplyStyleTable(const StyleTable& table) {
@@ -159,6 +177,7 @@ void SciEdit::SetText(std::string_view bytes) {
   Send(SCI_SETUNDOCOLLECTION, 1);
   Send(SCI_EMPTYUNDOBUFFER);
   Send(SCI_SETSAVEPOINT);
+  savePointLost_ = false;
   Send(SCI_SETEOLMODE, SC_EOL_CRLF);
   // Appended text has style 0 already.
   if (baseStyle_ != 0) {
@@ -170,6 +189,7 @@ void SciEdit::SetText(std::string_view bytes) {
   loading_ = false;
   explicitSet_ = false;
   changePending_ = true;  // a load is a change even when both texts are empty
+  emit ModifiedChanged();
 }
 
 Pos SciEdit::SelStart() const {
@@ -201,7 +221,7 @@ std::string SciEdit::SelText() const {
 }
 
 void SciEdit::ReplaceTarget(Pos start, Pos length, std::string_view bytes) {
-  PauseWrapInBursts();
+  PauseWrapInBursts(bytes.size());
   Send(SCI_SETTARGETRANGE, static_cast<unsigned long>(start), start + length);
   SendScintilla(SCI_REPLACETARGET, static_cast<uintptr_t>(bytes.size()),
                 bytes.empty() ? "" : bytes.data());
@@ -227,10 +247,12 @@ void SciEdit::ReplaceRange(Pos start, Pos length, std::string_view bytes) {
   ForgetInsertionStyleIfMoved();
 }
 
-void SciEdit::PauseWrapInBursts() {
+void SciEdit::PauseWrapInBursts(std::size_t insertedBytes) {
   // A wrapping widget lays out every changed line at once. A burst of edits made before
-  // the event loop runs again (Replace All) wraps once, when it is over.
+  // the event loop runs again (Replace All) wraps once, when it is over; so does one large
+  // insertion (a generated table), whose lines are laid out as they come into view.
   constexpr int kBurst = 32;
+  constexpr std::size_t kLargeInsertion = 64 * 1024;
   if (burstEdits_ == 0) {
     QMetaObject::invokeMethod(
         this,
@@ -247,6 +269,7 @@ void SciEdit::PauseWrapInBursts() {
         Qt::QueuedConnection);
   }
   if (burstEdits_ < kBurst) ++burstEdits_;
+  if (insertedBytes >= kLargeInsertion) burstEdits_ = kBurst;
   if (burstEdits_ < kBurst || wrapSuspended_ || Send(SCI_GETWRAPMODE) == SC_WRAP_NONE) return;
   suspendedWrap_ = Send(SCI_GETWRAPMODE);
   Send(SCI_SETWRAPMODE, SC_WRAP_NONE);
@@ -388,17 +411,56 @@ bool SciEdit::WordWrap() const {
 }
 
 void SciEdit::EmptyUndoBuffer() {
+  // The widget takes an emptied history for the save point; a text that differs from the
+  // saved one must stay modified.
+  if (IsModified()) savePointLost_ = true;
   Send(SCI_EMPTYUNDOBUFFER);
+}
+
+bool SciEdit::CanRedo() const {
+  return Send(SCI_CANREDO) != 0;
+}
+
+void SciEdit::Redo() {
+  UndoOrRedo(SCI_REDO);
+}
+
+void SciEdit::BeginUndoGroup() {
+  Send(SCI_BEGINUNDOACTION);
+}
+
+void SciEdit::EndUndoGroup() {
+  Send(SCI_ENDUNDOACTION);
+}
+
+bool SciEdit::IsModified() const {
+  return savePointLost_ || Send(SCI_GETMODIFY) != 0;
+}
+
+void SciEdit::SetSavePoint() {
+  savePointLost_ = false;
+  Send(SCI_SETSAVEPOINT);
+  emit ModifiedChanged();
 }
 
 bool SciEdit::CanUndo() const {
   return Send(SCI_CANUNDO) != 0;
 }
 
-void SciEdit::Undo() {
+void SciEdit::UndoOrRedo(unsigned int message) {
   ChangeBatch batch(*this);
-  Send(SCI_UNDO);
+  // A wrapping widget lays out the lines of every step of a group as it goes (seconds for
+  // a Replace All of many matches); without wrap the group is undone at once, and the
+  // view then wraps what it shows.
+  const long wrap = wrapSuspended_ ? static_cast<long>(SC_WRAP_NONE) : Send(SCI_GETWRAPMODE);
+  if (wrap != SC_WRAP_NONE) Send(SCI_SETWRAPMODE, SC_WRAP_NONE);
+  Send(message);
+  if (wrap != SC_WRAP_NONE) Send(SCI_SETWRAPMODE, static_cast<unsigned long>(wrap));
   ForgetInsertionStyleIfMoved();
+}
+
+void SciEdit::Undo() {
+  UndoOrRedo(SCI_UNDO);
 }
 
 namespace {

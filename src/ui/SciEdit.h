@@ -55,6 +55,16 @@ class SciEdit : public QsciScintilla, public EditControl {
   void EmptyUndoBuffer() override;
   bool CanUndo() const override;
   void Undo() override;
+  bool CanRedo() const override;
+  void Redo() override;
+  void BeginUndoGroup() override;
+  void EndUndoGroup() override;
+  bool IsModified() const override;
+  void SetSavePoint() override;
+
+ signals:
+  // IsModified may have changed.
+  void ModifiedChanged();
 
  protected:
   // User input arrives here; edits made while handling one event are reported once, after
@@ -74,11 +84,12 @@ class SciEdit : public QsciScintilla, public EditControl {
   // Lays the insertion style on the last inserted text, once it is in.
   void FlushInsertion() const;
   void FinishChange();
+  void UndoOrRedo(unsigned int message);
   Style InsertionStyleAt(Pos pos) const;
   void ReplaceTarget(Pos start, Pos length, std::string_view bytes);
   void ForgetInsertionStyleIfMoved();
   void ScrollCaretLater();
-  void PauseWrapInBursts();
+  void PauseWrapInBursts(std::size_t insertedBytes);
 
   Style baseStyle_ = 0;
   // While hidden (a colouring pass) the widget's wrap mode waits here.
@@ -89,6 +100,8 @@ class SciEdit : public QsciScintilla, public EditControl {
   Pos explicitEnd_ = 0;
   Style explicitStyle_ = 0;
   bool loading_ = false;
+  // The history that led back to the saved text was emptied while the text differed.
+  bool savePointLost_ = false;
   int batchDepth_ = 0;
   bool changePending_ = false;
   bool finishQueued_ = false;

@@ -16,53 +16,55 @@
 #include "platform/SettingsStore.h"
 #include "settings/Settings.h"
 #include "ui/Commands.h"
-#include "ui/Form2.h"
-#include "ui/MDIForm1.h"
+#include "ui/DocumentForm.h"
+#include "ui/MainWindow.h"
 #include "ui/SciEdit.h"
-#include "ui/wizards/DateTimeDialog.h"
-#include "ui/wizards/FormatCharDialog.h"
-#include "ui/wizards/HorizLineDialog.h"
-#include "ui/wizards/MetatagsDialog.h"
-#include "ui/wizards/SSListBar.h"
+#include "ui/wizards/CharacterPickerDialog.h"
+#include "ui/wizards/DateStampDialog.h"
+#include "ui/wizards/FormatTextDialog.h"
+#include "ui/wizards/HorizontalLineDialog.h"
+#include "ui/wizards/MetaTagsDialog.h"
 #include "ui/wizards/ScriptTagsDialog.h"
-#include "ui/wizards/VowelsDialog.h"
+#include "ui/wizards/ShortcutBar.h"
 #include "wizards/DateTime.h"
 #include "wizards/FormatChar.h"
+#include "wizards/HorizontalLine.h"
 #include "wizards/Metatags.h"
-#include "wizards/frmHorizLine.h"
-#include "wizards/frmScriptTags.h"
+#include "wizards/ScriptTags.h"
 
 namespace tessarine {
 
 namespace {
 
 // Shows the dialog a command asked for, and finishes what follows it.
-void ShowTagDialog(MDIForm1& frame, const std::string& name) {
+void ShowTagDialog(MainWindow& frame, const std::string& name) {
   Application* app = frame.App();
   if (!app || name.empty()) return;
   if (name == "FormatChar") {
-    ui::FormatChar(*app, &frame).exec();
-  } else if (name == "frmHorizLine") {
-    ui::frmHorizLine(*app, &frame).exec();
+    ui::FormatTextDialog(*app, &frame).exec();
+  } else if (name == "HorizontalLine") {
+    ui::HorizontalLineDialog(*app, &frame).exec();
     mnuHR_Finish(*app);
-  } else if (name == "frmScriptTags") {
-    ui::frmScriptTags(*app, &frame).exec();
+  } else if (name == "ScriptTags") {
+    ui::ScriptTagsDialog(*app, &frame).exec();
   } else if (name == "Vowels") {
-    ui::Vowels(*app, &frame).exec();
+    ui::CharacterPickerDialog(*app, &frame).exec();
   } else if (name == "DateTime") {
-    ui::DateTime(*app, &frame).exec();
+    ui::DateStampDialog(*app, &frame).exec();
   } else if (name == "Metatags") {
     WizardState& w = app->wizards;
-    if (ui::Metatags(*app, &frame).exec() != QDialog::Accepted) return;
+    if (ui::MetaTagsDialog(*app, &frame).exec() != QDialog::Accepted) return;
     std::string head = w.MetaDescription + w.MetaKeywords + w.MetaEffects, body;
     // The last line end is the head's own.
     if (head.size() >= 2) head.resize(head.size() - 2);
     if (!head.empty()) InsertInHeadAndBody(*app, head, body);
+  } else {
+    frame.ShowDialog(name);
   }
 }
 
 // Entries whose dialogs come later: present, dimmed.
-void AddLater(MDIForm1& frame, QMenu* menu, const char* name, const char* caption) {
+void AddLater(MainWindow& frame, QMenu* menu, const char* name, const char* caption) {
   QAction* a = frame.AddCommand(menu, name, caption, false, [] {});
   a->setEnabled(false);
 }
@@ -74,8 +76,8 @@ QMenu* SubMenu(QMenu* parent, const char* name, const char* caption) {
   return m;
 }
 
-void AddArray(MDIForm1& frame, QMenu* menu, const std::string& arrayName, int from = -1) {
-  MDIForm1* f = &frame;
+void AddArray(MainWindow& frame, QMenu* menu, const std::string& arrayName, int from = -1) {
+  MainWindow* f = &frame;
   for (const TagMenuArray& a : TagMenuArrays()) {
     if (a.name != arrayName) continue;
     for (std::size_t i = 0; i < a.captions.size(); ++i) {
@@ -94,8 +96,8 @@ void AddArray(MDIForm1& frame, QMenu* menu, const std::string& arrayName, int fr
   }
 }
 
-void BuildFormatMenu(MDIForm1& frame) {
-  MDIForm1* f = &frame;
+void BuildFormatMenu(MainWindow& frame) {
+  MainWindow* f = &frame;
   QMenu* format = frame.Menu("mnuFormat");
   frame.AddCommand(format, "mnuFont", "&Font...", true, [f] { ShowTagDialog(*f, "FormatChar"); });
   AddArray(frame, SubMenu(format, "mnuPhysicalStylesMain", "&Physical Styles"),
@@ -115,8 +117,8 @@ void BuildFormatMenu(MDIForm1& frame) {
   frame.Command("mnuOtherHTMLSub1")->setShortcut(QKeySequence("Ctrl+K"));
 }
 
-void BuildInsertMenu(MDIForm1& frame) {
-  MDIForm1* f = &frame;
+void BuildInsertMenu(MainWindow& frame) {
+  MainWindow* f = &frame;
   auto run = [f](const char* name) {
     return [f, name] {
       if (f->App()) RunInsertCommand(*f->App(), name);
@@ -125,9 +127,9 @@ void BuildInsertMenu(MDIForm1& frame) {
   QMenu* insert = frame.Menu("mnuInsert");
   AddLater(frame, insert, "mnuHypertext", "&Hyperlink...");
   AddLater(frame, insert, "mnuAnchor", "&Anchor...");
-  AddLater(frame, insert, "mnuEmailLink", "E-&mail Link...");
+  AddLater(frame, insert, "mnuEmailLink", "E-mail Lin&k...");
   AddLater(frame, insert, "Graphics", "&Image...");
-  AddLater(frame, insert, "mnuImageMap", "Image &Map...");
+  AddLater(frame, insert, "mnuImageMap", "Ima&ge Map...");
   insert->addSeparator();
   frame
       .AddCommand(insert, "mnuHR", "Hori&zontal Line", true,
@@ -141,7 +143,7 @@ void BuildInsertMenu(MDIForm1& frame) {
                    [f] { ShowTagDialog(*f, "DateTime"); });
   frame.AddCommand(insert, "mnuMetaTags", "M&eta Tags...", true,
                    [f] { ShowTagDialog(*f, "Metatags"); });
-  frame.AddCommand(insert, "mnuListItem", "List I&tem - <LI>", true, run("mnuListItem"));
+  frame.AddCommand(insert, "mnuListItem", "List Ite&m - <LI>", true, run("mnuListItem"));
   insert->addSeparator();
   QMenu* table = SubMenu(insert, "mnuTable", "&Table");
   frame.AddCommand(table, "mnuTableTable", "&Table - <TABLE>", true, run("mnuTableTable"));
@@ -155,7 +157,7 @@ void BuildInsertMenu(MDIForm1& frame) {
   insert->addSeparator();
   QMenu* scripting = SubMenu(insert, "mnuScriptingMain", "Scri&pting");
   frame.AddCommand(scripting, "mnuScriptTags", "&Script Tags...", true,
-                   [f] { ShowTagDialog(*f, "frmScriptTags"); });
+                   [f] { ShowTagDialog(*f, "ScriptTags"); });
   AddLater(frame, insert, "mnuJavaApplet", "&Java Applet...");
   AddLater(frame, insert, "mnuembed", "Em&bedded Media...");
   AddLater(frame, insert, "mnuSpecialEffectsMain", "Special Effe&cts...");
@@ -165,8 +167,8 @@ void BuildInsertMenu(MDIForm1& frame) {
   });
 }
 
-void BuildButtons(MDIForm1& frame) {
-  MDIForm1* f = &frame;
+void BuildButtons(MainWindow& frame) {
+  MainWindow* f = &frame;
   for (const char* key : {"Bold", "Italic", "Underline", "Format", "Align Left", "Align Center",
                           "Align Right", "Justify", "Indent", "BR", "HR", "Comment"})
     frame.BindButton("tbrFormat", key, [f, key] {
@@ -197,9 +199,9 @@ void BuildButtons(MDIForm1& frame) {
   });
 }
 
-void BuildShortcutBar(MDIForm1& frame) {
-  MDIForm1* f = &frame;
-  auto* bar = new ui::SSListBar;
+void BuildShortcutBar(MainWindow& frame) {
+  MainWindow* f = &frame;
+  auto* bar = new ui::ShortcutBar;
   frame.SidePanel()->addTab(bar, "Shortcuts");
   bar->OnItemClick([f](const std::string& key) {
     if (f->App()) ShowTagDialog(*f, ShortcutBarClick(*f->App(), key));
@@ -220,8 +222,8 @@ void BuildShortcutBar(MDIForm1& frame) {
 
 // The edit control would claim some of the tag shortcuts for its own commands (Ctrl+U
 // lower-cases the selection): the menu's meaning wins.
-void FreeTagShortcuts(Form2& form) {
-  QsciCommandSet* commands = form.RichTextBox1().standardCommands();
+void FreeTagShortcuts(DocumentForm& form) {
+  QsciCommandSet* commands = form.Editor().standardCommands();
   for (QKeyCombination k : {Qt::CTRL | Qt::Key_B, Qt::CTRL | Qt::Key_I, Qt::CTRL | Qt::Key_U,
                             Qt::CTRL | Qt::Key_K, Qt::CTRL | Qt::Key_H}) {
     const int key = k.toCombined();
@@ -234,7 +236,7 @@ void FreeTagShortcuts(Form2& form) {
 
 }  // namespace
 
-void BuildTagCommands(MDIForm1& frame) {
+void BuildTagCommands(MainWindow& frame) {
   BuildFormatMenu(frame);
   BuildInsertMenu(frame);
   BuildButtons(frame);

@@ -16,13 +16,13 @@ const std::vector<std::string>& DateTimeRows() {
 }
 
 CheckResult DateTime::Validate() const {
-  if (Combo1.empty()) return WizardCheck{"Select a Date/Time format.", "Combo1"};
+  if (formatRow.empty()) return WizardCheck{"Select a Date/Time format.", "formatRow"};
   return std::nullopt;
 }
 
 std::string DateTime::Build(const std::tm& now) const {
-  const std::string head = Combo1.substr(0, 6);
-  const bool pm = Combo1.size() >= 2 && Combo1.compare(Combo1.size() - 2, 2, "PM") == 0;
+  const std::string head = formatRow.substr(0, 6);
+  const bool pm = formatRow.size() >= 2 && formatRow.compare(formatRow.size() - 2, 2, "PM") == 0;
   std::string stamp;
   if (head == "Monday")
     stamp = FormatDate(now, "dddd, mmmm dd, yyyy");
@@ -43,7 +43,7 @@ std::string DateTime::Build(const std::tm& now) const {
     stamp = FormatDate(now, "h:mm AM/PM");
   else
     return "";
-  return Text1 + " " + stamp;
+  return leadingText + " " + stamp;
 }
 
 CheckResult DateTime_OK(Application& app, const DateTime& form) {

@@ -5,15 +5,15 @@
 #include <string>
 #include <vector>
 
-#include "wizards/WizardCheck.h"
+#include "conventions/WizardCheck.h"
 
 namespace tessarine {
 
 class Application;
 
 struct DateTime {
-  std::string Combo1;                            // the chosen row
-  std::string Text1 = "This page last updated";  // text before the date
+  std::string formatRow;                               // the chosen row
+  std::string leadingText = "This page last updated";  // text before the date
 
   CheckResult Validate() const;
   // The stamp for `now`; empty when no row's test holds.

@@ -28,10 +28,10 @@ int FormatCharPointSize(const std::string& sizeRow) {
 FormatChar::Tags FormatChar::Build() const {
   const char q = '"';
   std::string face, color, size;
-  if (!Combo3.empty()) face = std::string(" FACE=") + q + Combo3 + q;
-  if (!Text1.empty()) color = std::string(" COLOR=") + q + "#" + Text1 + q;
-  if (Combo1 != "Default" && !Combo1.empty()) {
-    const std::string value = Combo1 == "1 - small" ? "1" : Combo1 == "7 - large" ? "7" : Combo1;
+  if (!fontFace.empty()) face = std::string(" FACE=") + q + fontFace + q;
+  if (!colorHex.empty()) color = std::string(" COLOR=") + q + "#" + colorHex + q;
+  if (sizeRow != "Default" && !sizeRow.empty()) {
+    const std::string value = sizeRow == "1 - small" ? "1" : sizeRow == "7 - large" ? "7" : sizeRow;
     size = std::string(" SIZE=") + q + value + q;
   }
   Tags t;
@@ -44,19 +44,19 @@ FormatChar::Tags FormatChar::Build() const {
     t.start += std::string("<") + tag + ">";
     t.end = std::string("</") + tag + ">" + t.end;
   };
-  nest(Check1, "B");
-  nest(Check2, "I");
-  nest(Check3, "U");
-  nest(Check4, "S");
-  nest(Check5, "TT");
-  nest(Check7, "CODE");
-  nest(Check9, "EM");
-  nest(Check10, "KBD");
-  nest(Check12, "SAMP");
-  nest(Check13, "STRONG");
-  nest(Check14, "VAR");
-  nest(Combo2 == "Subscript", "SUB");
-  nest(Combo2 == "Superscript", "SUP");
+  nest(bold, "B");
+  nest(italic, "I");
+  nest(underline, "U");
+  nest(strikeThrough, "S");
+  nest(teletype, "TT");
+  nest(code, "CODE");
+  nest(emphasis, "EM");
+  nest(keyboard, "KBD");
+  nest(sample, "SAMP");
+  nest(strong, "STRONG");
+  nest(variable, "VAR");
+  nest(position == "Subscript", "SUB");
+  nest(position == "Superscript", "SUP");
   return t;
 }
 
@@ -65,7 +65,7 @@ std::string RecentFontName(Application& app) {
 }
 
 void FormatChar_OK(Application& app, const FormatChar& form) {
-  if (!form.Combo3.empty()) app.store.SaveSetting("Font", "RecentFontName", form.Combo3);
+  if (!form.fontFace.empty()) app.store.SaveSetting("Font", "RecentFontName", form.fontFace);
   const FormatChar::Tags t = form.Build();
   WrapSelection(app, t.start, t.end, false);
 }

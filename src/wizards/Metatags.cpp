@@ -1,8 +1,8 @@
 #include "wizards/Metatags.h"
 
+#include "conventions/TagConventions.h"
 #include "core/Application.h"
 #include "platform/MessageBoxes.h"
-#include "wizards/TagConventions.h"
 
 namespace tessarine {
 
@@ -15,10 +15,10 @@ std::string Trim(const std::string& s) {
 }  // namespace
 
 CheckResult Metatags::Validate() const {
-  if (Check1 && (Text3.empty() || Text4.empty()))
+  if (splashScreen && (refreshSeconds.empty() || nextPageUrl.empty()))
     return WizardCheck{
         "Please enter the number of seconds and the Web page URL for the splash screen.",
-        Text3.empty() ? "Text3" : "Text4"};
+        refreshSeconds.empty() ? "refreshSeconds" : "nextPageUrl"};
   return std::nullopt;
 }
 
@@ -26,13 +26,13 @@ Metatags::Texts Metatags::Build(bool upper) const {
   const std::string q = "\"";
   const std::string meta = upper ? "<META Name=" : "<meta name=";
   Texts t;
-  if (!Text1.empty())
-    t.description = meta + q + "description" + q + " Content=" + q + Text1 + q + ">\r\n";
-  if (!Text2.empty())
-    t.keywords = meta + q + "keywords" + q + " Content=" + q + Text2 + q + ">\r\n";
-  if (Check1 && !Text3.empty() && !Text4.empty())
+  if (!description.empty())
+    t.description = meta + q + "description" + q + " Content=" + q + description + q + ">\r\n";
+  if (!keywords.empty())
+    t.keywords = meta + q + "keywords" + q + " Content=" + q + keywords + q + ">\r\n";
+  if (splashScreen && !refreshSeconds.empty() && !nextPageUrl.empty())
     t.effects = (upper ? "<META HTTP-EQUIV=" : "<meta http-equiv=") + q + "Refresh" + q +
-                " Content=" + q + Trim(Text3) + ";URL=" + Text4 + q + ">\r\n";
+                " Content=" + q + Trim(refreshSeconds) + ";URL=" + nextPageUrl + q + ">\r\n";
   return t;
 }
 

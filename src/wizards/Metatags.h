@@ -3,18 +3,18 @@
 
 #include <string>
 
-#include "wizards/WizardCheck.h"
+#include "conventions/WizardCheck.h"
 
 namespace tessarine {
 
 class Application;
 
 struct Metatags {
-  std::string Text1;    // description
-  std::string Text2;    // keywords
-  bool Check1 = false;  // splash screen
-  std::string Text3;    // seconds
-  std::string Text4;    // URL of the second page
+  std::string description;     // description
+  std::string keywords;        // keywords
+  bool splashScreen = false;   // splash screen
+  std::string refreshSeconds;  // seconds
+  std::string nextPageUrl;     // URL of the second page
 
   CheckResult Validate() const;
   struct Texts {

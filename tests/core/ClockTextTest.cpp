@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "core/ClockText.h"
 #include "core/DateFormat.h"
 #include "core/TestApp.h"
@@ -36,6 +38,18 @@ TEST(DateFormat, PatternsOfTheDateStamps) {
   // Without a marker the hour runs to 23; with one, midnight is 12.
   EXPECT_EQ(FormatDate(At(2002, 1, 5, 0, 0), "hh:nn"), "00:00");
   EXPECT_EQ(FormatDate(At(2002, 1, 5, 0, 0), "h AM/PM"), "12 AM");
+}
+
+TEST(DateFormat, ExtremeFieldsAreCountedOnNotOverflowed) {
+  std::tm t{};
+  t.tm_year = std::numeric_limits<int>::max();
+  t.tm_yday = std::numeric_limits<int>::max();
+  t.tm_mon = std::numeric_limits<int>::min();
+  t.tm_wday = std::numeric_limits<int>::min();
+  EXPECT_EQ(FormatDate(t, "yyyy y"), "2147485547 2147483648");
+  EXPECT_EQ(FormatDate(t, "yy"), "47");
+  // Months and weekdays wrap into their names.
+  EXPECT_EQ(FormatDate(t, "mmm ddd"), "May Fri");
 }
 
 }  // namespace

@@ -148,7 +148,7 @@ TEST(SavePrompt, YesOnAPathWritesThatFileWithOneLineEndAdded) {
   EXPECT_EQ(ReadAll(dir / "a.html"), "xline\r\n\r\n");
 }
 
-TEST(SavePrompt, AFailedWriteIsShownAndTheUnloadGoesOn) {
+TEST(SavePrompt, AFailedWriteIsShownAndTheWindowStaysUntilTheUserSaysNo) {
   TestApp t;
   TempDir dir;
   auto& w = t.NewWindow();
@@ -156,12 +156,18 @@ TEST(SavePrompt, AFailedWriteIsShownAndTheUnloadGoesOn) {
   w.SetCaption(path);
   w.Buffer().Type("x");
   t.messages.Queue(MsgAnswer::Yes);
-  EXPECT_TRUE(w.RequestClose());
+  EXPECT_FALSE(w.RequestClose());
   ASSERT_EQ(t.messages.shown().size(), 2u);
   EXPECT_EQ(t.messages.shown()[1].text, "Error# 53: File not found");
   EXPECT_EQ(t.messages.shown()[1].icon, MsgIcon::Exclamation);
-  EXPECT_FALSE(t.app.documents.AnyDocumentsLeft());
+  EXPECT_TRUE(t.app.documents.AnyDocumentsLeft());
+  EXPECT_TRUE(t.Changed(w));
   EXPECT_FALSE(std::filesystem::exists(path));
+  // Asked again, the user lets the text go.
+  t.messages.Queue(MsgAnswer::No);
+  EXPECT_TRUE(w.RequestClose());
+  EXPECT_EQ(t.messages.shown().size(), 3u);
+  EXPECT_FALSE(t.app.documents.AnyDocumentsLeft());
 }
 
 TEST(SavePrompt, OnlyAnExactUntitledPrefixGoesThroughTheDialog) {

@@ -188,6 +188,96 @@ TEST_F(FindTest, ReplaceAllWithNothingFindsNothingAndAnEmptyBoxDoesNothing) {
   EXPECT_EQ(e.Text(), "aa");
 }
 
+// The page-structure needles miss without a word; Replace All must still end at the miss
+// (ctest's timeout catches the loop it once was), whatever the direction, case or text.
+TEST_F(FindTest, ReplaceAllEndsForThePageStructureNeedles) {
+  const std::string page = "<html><HEAD><title>t</title></head><body>x</BODY></html>";
+  for (const char* needle : {"<HEAD>", "</head>", "<Title>", "<body"})
+    for (const std::string& text : {std::string(), page})
+      for (int direction : {0, 1})
+        for (bool matchCase : {false, true}) {
+          BufferEdit& e = Open(text);
+          if (direction == 0) e.SetSelStart(e.Length());
+          f().FindDirection = static_cast<std::int16_t>(direction);
+          f().FindMatchCase = matchCase;
+          EXPECT_TRUE(cmdReplaceAll(t.app, {needle, "[x]", direction == 1, matchCase}));
+          const std::string after = e.Text();
+          // At most the one match of each needle in the page was replaced.
+          EXPECT_LE(after.size(), text.size() + 3) << needle;
+          if (text.empty()) {
+            EXPECT_EQ(after, "") << needle;
+          }
+        }
+}
+
+// Replace All against a plain walk over a string: down from the caret, a search starts one
+// past the last match's start when the caret stands on it, and a replacement goes in at the
+// match, leaving the caret behind it.
+struct PlainReplaceAll {
+  std::string text;
+  std::int64_t count = 0;
+};
+
+PlainReplaceAll ReplaceAllDownPlainly(std::string text, Pos caret, const std::string& needle,
+                                      const std::string& replacement, bool matchCase) {
+  PlainReplaceAll out;
+  Pos last = -1;
+  for (;;) {
+    const Pos from = caret == last ? caret + 1 : caret;
+    const Pos p =
+        from > static_cast<Pos>(text.size()) ? -1 : NaiveDown(text, from, needle, matchCase);
+    if (p < 0) break;
+    text.replace(static_cast<size_t>(p), needle.size(), replacement);
+    last = p;
+    caret = p + static_cast<Pos>(replacement.size());
+    ++out.count;
+  }
+  out.text = std::move(text);
+  return out;
+}
+
+// The count that the closing message names; 0 for the plain finished message.
+std::int64_t CountInSummary(const std::string& message) {
+  const auto at = message.find("A total of ");
+  return at == std::string::npos ? 0 : std::stoll(message.substr(at + 11));
+}
+
+TEST_F(FindTest, ReplaceAllEndsAndAgreesWithAPlainReplaceForRandomTexts) {
+  std::mt19937 rng(21);
+  const char alphabet[] = "aAbB<>/";
+  auto random = [&](int least, int most) {
+    std::string s;
+    for (int i = least + static_cast<int>(rng() % (most - least + 1)); i > 0; --i)
+      s += alphabet[rng() % 7];
+    return s;
+  };
+  for (int round = 0; round < 2000; ++round) {
+    const std::string text = random(0, 30), needle = random(1, 3), replacement = random(0, 4);
+    const bool matchCase = rng() % 2, down = rng() % 2;
+    BufferEdit& e = Open(text);
+    const Pos caret = static_cast<Pos>(rng() % (text.size() + 1));
+    e.SetSelStart(caret);
+    f() = FindState{};
+    f().FindDirection = down ? 1 : 0;
+    f().FindMatchCase = matchCase;
+    const size_t shownBefore = t.messages.shown().size();
+    ASSERT_TRUE(cmdReplaceAll(t.app, {needle, replacement, down, matchCase}));
+    ASSERT_EQ(t.messages.shown().size(), shownBefore + 1) << text << " / " << needle;
+    const std::int64_t count = CountInSummary(t.messages.shown().back().text);
+    const std::string context = "'" + text + "' / '" + needle + "' -> '" + replacement + "'";
+    // Every replacement changes the length by the same step.
+    ASSERT_EQ(static_cast<std::int64_t>(e.Length()) - static_cast<std::int64_t>(text.size()),
+              count * (static_cast<std::int64_t>(replacement.size()) -
+                       static_cast<std::int64_t>(needle.size())))
+        << context;
+    if (!down) continue;
+    const PlainReplaceAll plain =
+        ReplaceAllDownPlainly(text, caret, needle, replacement, matchCase);
+    ASSERT_EQ(count, plain.count) << context;
+    ASSERT_EQ(e.Text(), plain.text) << context;
+  }
+}
+
 TEST_F(FindTest, ReplaceWritesOverAnySelectionOrFindsFirst) {
   BufferEdit& e = Open("alpha beta");
   e.Select(0, 5);

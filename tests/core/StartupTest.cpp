@@ -20,6 +20,7 @@ TEST(WindowPlacement, FirstRunTakesTheWholeScreenAtTheOrigin) {
   EXPECT_EQ(p.y, 0);
   EXPECT_EQ(p.width, 1280);
   EXPECT_EQ(p.height, 1024);
+  EXPECT_TRUE(p.fillsScreen) << "opens maximised";
 }
 
 TEST(WindowPlacement, StoredTwipsBecomePixelsAndBadValuesFallBack) {
@@ -33,6 +34,7 @@ TEST(WindowPlacement, StoredTwipsBecomePixelsAndBadValuesFallBack) {
   EXPECT_EQ(p.y, 100);
   EXPECT_EQ(p.width, 600);
   EXPECT_EQ(p.height, 1024);  // empty takes the screen's
+  EXPECT_FALSE(p.fillsScreen);
 
   // Only both at 5000 means the first run.
   store.SaveSetting("Window", "WindowYSize", "5000");

@@ -188,7 +188,7 @@ TEST_F(TagCommands, InsertMenuSingles) {
   // The dialog cancelled: both texts empty, nothing written.
   EXPECT_EQ(OnSel(true,
                   [&] {
-                    ASSERT_EQ(mnuHR(t.app), "frmHorizLine");
+                    ASSERT_EQ(mnuHR(t.app), "HorizontalLine");
                     mnuHR_Finish(t.app);
                   }),
             "[Sel]");
@@ -221,7 +221,7 @@ TEST_F(TagCommands, FormatToolbarByKeyIgnoringCase) {
                 upper ? std::string(expected) : Lower(expected))
           << key;
   EXPECT_EQ(tbrFormatClick(t.app, "Format"), "FormatChar");
-  EXPECT_EQ(tbrFormatClick(t.app, "HR"), "frmHorizLine");
+  EXPECT_EQ(tbrFormatClick(t.app, "HR"), "HorizontalLine");
 }
 
 TEST_F(TagCommands, ColorPickerWritesTheHexUnlessCancelled) {
@@ -256,7 +256,7 @@ TEST_F(TagCommands, ShortcutBarTagsAndSnippets) {
   EXPECT_EQ(OnSel(true, [&] { ShortcutBarClick(t.app, "JSswitch"); }),
             "[switch(expression)\r\n{\r\n\tcase label1:\r\n\t\t\r\n\t\tbreak;\r\n\r\n\tcase "
             "label2:\r\n\t\t\r\n\t\tbreak;\r\n\r\n\tdefault:\r\n\t\t\r\n}Sel]");
-  EXPECT_EQ(ShortcutBarClick(t.app, "Script tags"), "frmScriptTags");
+  EXPECT_EQ(ShortcutBarClick(t.app, "Script tags"), "ScriptTags");
   EXPECT_EQ(ShortcutBarClick(t.app, "Checkbox"), "FormElement:4");
   EXPECT_EQ(ShortcutBarClick(t.app, "JavaScript button"), "FormElement:10");
 }

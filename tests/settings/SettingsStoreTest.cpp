@@ -33,14 +33,33 @@ TEST(StrictInt16, TakesOnlyAWholeNumberInRange) {
     int value;
   };
   for (const Case& c : {
-           Case{"4", true, 4},       Case{" 12 ", true, 12},     Case{"-3", true, -3},
-           Case{"+7", true, 7},      Case{"6.5", true, 6},       Case{"7.5", true, 8},
-           Case{"1e1", true, 10},    Case{"&H10", true, 16},     Case{"&hFFFF", true, -1},
-           Case{"&O17", true, 15},   Case{"32767", true, 32767}, Case{"32768", false, 0},
-           Case{"-32769", false, 0}, Case{"", false, 0},         Case{"  ", false, 0},
-           Case{"6abc", false, 0},   Case{"six", false, 0},      Case{"1e", false, 0},
-           Case{".", false, 0},      Case{"&H", false, 0},       Case{"&HG", false, 0},
-           Case{"4 5", false, 0},    Case{"&H-1", false, 0},
+           Case{"4", true, 4},
+           Case{" 12 ", true, 12},
+           Case{"-3", true, -3},
+           Case{"+7", true, 7},
+           Case{"6.5", true, 6},
+           Case{"7.5", true, 8},
+           Case{"1e1", true, 10},
+           Case{"&H10", true, 16},
+           Case{"&hFFFF", true, -1},
+           Case{"&O17", true, 15},
+           Case{"32767", true, 32767},
+           Case{"32768", false, 0},
+           Case{"-32769", false, 0},
+           Case{"", false, 0},
+           Case{"  ", false, 0},
+           Case{"6abc", false, 0},
+           Case{"six", false, 0},
+           Case{"1e", false, 0},
+           Case{".", false, 0},
+           Case{"&H", false, 0},
+           Case{"&HG", false, 0},
+           Case{"4 5", false, 0},
+           Case{"&H-1", false, 0},
+           // Beyond a double's range: out of range, not 0.
+           Case{"1e400", false, 0},
+           Case{"-1e400", false, 0},
+           Case{"1e-400", true, 0},
        }) {
     std::int16_t v = 99;
     EXPECT_EQ(StrictInt16(c.text, v), c.ok) << '"' << c.text << '"';

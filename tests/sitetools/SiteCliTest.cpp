@@ -1,5 +1,6 @@
 // tessarine-site analyse, run as a program.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 
 #include <cstdlib>
@@ -20,8 +21,10 @@ struct RunResult {
   std::string err;
 };
 
-RunResult RunSiteTool(const TempSite& site, const std::string& arguments) {
-  const std::string out = site.Base() + "stdout.txt";
+// Standard output goes to `outTo` when given (a device such as /dev/full).
+RunResult RunSiteTool(const TempSite& site, const std::string& arguments,
+                      const std::string& outTo = "") {
+  const std::string out = outTo.empty() ? site.Base() + "stdout.txt" : outTo;
   const std::string err = site.Base() + "stderr.txt";
   // Run from the folder above the site, so that "site/..." is a relative path.
   const std::string command = "cd '" + site.Base() + "' && '" + TESSARINE_SITE_EXE + "' " +
@@ -29,7 +32,7 @@ RunResult RunSiteTool(const TempSite& site, const std::string& arguments) {
   RunResult result;
   const int raw = std::system(command.c_str());
   if (raw != -1 && WIFEXITED(raw)) result.status = WEXITSTATUS(raw);
-  result.out = ReadAll(out);
+  if (outTo.empty()) result.out = ReadAll(out);
   result.err = ReadAll(err);
   return result;
 }
@@ -88,6 +91,26 @@ TEST(SiteCli, UsageErrorsAndUnreadableStartPagesExitWithTwo) {
   const RunResult help = RunSiteTool(site, "--help");
   EXPECT_EQ(help.status, 0);
   EXPECT_NE(help.out.find("analyse START_PAGE"), std::string::npos);
+}
+
+TEST(SiteCli, ReportsOrOutputThatCannotBeWrittenExitWithOneAndTheReason) {
+  TempSite site;
+  site.Write("index.html", "<A HREF=\"gone.html\">");
+  ASSERT_EQ(::mkfifo((site.Root() + "BrokenLinks.txt").c_str(), 0644), 0);
+  const RunResult fifo = RunSiteTool(site, "analyse site/index.html");
+  EXPECT_EQ(fifo.status, 1);
+  EXPECT_NE(fifo.err.find("BrokenLinks.txt: not a regular file"), std::string::npos) << fifo.err;
+  EXPECT_EQ(fifo.out, "gone.html\tBroken Link\t" + site.Root() +
+                          "index.html\n 1 Errors in Site\tNumber of page in site:  1\n");
+
+  std::filesystem::remove(site.Root() + "BrokenLinks.txt");
+  for (const char* arguments : {"analyse site/index.html", "analyse --page site/index.html"}) {
+    const RunResult full = RunSiteTool(site, arguments, "/dev/full");
+    EXPECT_EQ(full.status, 1) << arguments;
+    EXPECT_NE(full.err.find("cannot write standard output: No space left on device"),
+              std::string::npos)
+        << full.err;
+  }
 }
 
 }  // namespace

@@ -74,16 +74,16 @@ TEST(SitePage, ClassifiesEveryLinkAndWeighsThePage) {
 
   EXPECT_EQ(view.mode, "Page");
   EXPECT_EQ(view.columnHeading, "Title");
-  EXPECT_EQ(view.Label(SiteLabel::Label2), "File Title:");
-  EXPECT_EQ(view.Label(SiteLabel::Label4), "My Page");
-  EXPECT_EQ(view.Label(SiteLabel::Label5),
+  EXPECT_EQ(view.Label(SiteLabel::ResultsHeading), "File Title:");
+  EXPECT_EQ(view.Label(SiteLabel::ErrorCountOrTitle), "My Page");
+  EXPECT_EQ(view.Label(SiteLabel::PageCountOrWeight),
             "Document weight (file size including images, etc.):  1000000 bytes");
-  EXPECT_EQ(view.Label(SiteLabel::Label9), " " + std::to_string(page.size()) + " bytes");
-  EXPECT_EQ(view.Label(SiteLabel::Label12), " 4 minutes  38 seconds");
+  EXPECT_EQ(view.Label(SiteLabel::PageSize), " " + std::to_string(page.size()) + " bytes");
+  EXPECT_EQ(view.Label(SiteLabel::DownloadTime), " 4 minutes  38 seconds");
   // The file's date and time, as "m/d/yyyy h:mm:ss AM".
   int month = 0, day = 0, year = 0, hour = 0, minute = 0, second = 0, used = 0;
   char half[3] = {};
-  const std::string date = view.Label(SiteLabel::Label10);
+  const std::string date = view.Label(SiteLabel::FileDate);
   ASSERT_EQ(std::sscanf(date.c_str(), "%d/%d/%d %d:%2d:%2d %2[AP]M%n", &month, &day, &year, &hour,
                         &minute, &second, half, &used),
             7)
@@ -107,10 +107,10 @@ TEST(SitePage, MissingTitleIsARowAndTheLabelSaysNone) {
   analyser.AnalysePage(site.Root(), "page.html");
   EXPECT_EQ(view.rows, (std::vector<SiteRow>{{"Missing Title", {"Web page is missing title"}, 7},
                                              {"photo.JPG", {"OK", "Image", " 35"}, 3}}));
-  EXPECT_EQ(view.Label(SiteLabel::Label4), "None");
-  EXPECT_EQ(view.Label(SiteLabel::Label5),
+  EXPECT_EQ(view.Label(SiteLabel::ErrorCountOrTitle), "None");
+  EXPECT_EQ(view.Label(SiteLabel::PageCountOrWeight),
             "Document weight (file size including images, etc.):  41 bytes");
-  EXPECT_EQ(view.Label(SiteLabel::Label12), " 0 minutes  0 seconds");
+  EXPECT_EQ(view.Label(SiteLabel::DownloadTime), " 0 minutes  0 seconds");
 }
 
 TEST(SitePage, PageThatCannotBeOpenedKeepsTheOldText) {
@@ -123,7 +123,7 @@ TEST(SitePage, PageThatCannotBeOpenedKeepsTheOldText) {
   EXPECT_EQ(view.messages,
             (std::vector<std::string>{"Can't open file: " + site.Root() + "absent.html"}));
   EXPECT_EQ(view.rows, (std::vector<SiteRow>{{"gone.html", {"Broken Link"}, 2}}));
-  EXPECT_EQ(view.Label(SiteLabel::Label9), "-1 bytes");
+  EXPECT_EQ(view.Label(SiteLabel::PageSize), "-1 bytes");
 }
 
 }  // namespace

@@ -85,11 +85,11 @@ TEST(SiteScan, StripCommentsKeepsTheTextOutsideComments) {
   RecordingSiteView view;
   SiteAnalyser analyser(view);
   for (const Case& c : cases) {
-    analyser.SetText1(c.text);
+    analyser.SetPageText(c.text);
     analyser.Cursor = 0;
     analyser.ScanFresh = true;
     analyser.StripComments();
-    EXPECT_EQ(analyser.Text1(), c.want) << c.text;
+    EXPECT_EQ(analyser.PageText(), c.want) << c.text;
     EXPECT_EQ(analyser.ScanPos, 0);
     EXPECT_TRUE(analyser.ScanFresh);
   }
@@ -108,11 +108,18 @@ TEST(SiteScan, AnchorIndexAgreesWithThePlainSearch) {
           << text << " / " << anchor;
     }
   }
-  // Anchors longer than the index keys go to the plain search.
-  const std::string longName(200, 'Q');
-  EXPECT_FALSE(AnchorIndex::Answers(longName));
-  EXPECT_TRUE(TextHoldsAnchor("<A NAME=\"" + longName + "\">", longName));
-  EXPECT_FALSE(TextHoldsAnchor("<A NAME=\"" + longName + "\">", longName + "Q"));
+  // Anchors longer than the index keys: candidates that share the keys' length of text are
+  // told apart by the text itself.
+  const std::string head(AnchorIndex::kKeyLength, 'Q');
+  const std::string text = "<A NAME=\"" + head + "1\"> <A NAME=" + head + "22> <A NAME=\"" + head +
+                           "333\">";
+  const AnchorIndex index(text);
+  for (const std::string& anchor :
+       {head + "1", head + "2", head + "22", head + "333", head + "33", head + "3333", head + "4",
+        head + "1\"", std::string(300, 'Q')}) {
+    ASSERT_TRUE(AnchorIndex::NeedsText(anchor));
+    EXPECT_EQ(index.HoldsAnchor(anchor, text), TextHoldsAnchor(text, anchor)) << anchor.substr(128);
+  }
 }
 
 }  // namespace

@@ -380,6 +380,82 @@ TYPED_TEST_P(EditConformance, UndoOfTypingAndEmptyUndoBuffer) {
   EXPECT_FALSE(e.CanUndo());
 }
 
+TYPED_TEST_P(EditConformance, GroupedEditsUndoAndRedoAsOneStep) {
+  EditControl& e = this->Edit();
+  e.SetText("a-b-c");
+  {
+    UndoGroup group(e);
+    e.ReplaceRange(3, 1, "+");
+    {
+      UndoGroup inner(e);  // nested: still the one step
+      e.ReplaceRange(1, 1, "+");
+    }
+    e.Select(0, 1);
+    e.ReplaceSel("AA");
+  }
+  EXPECT_EQ(e.Text(), "AA+b+c");
+  e.Undo();
+  EXPECT_EQ(e.Text(), "a-b-c");
+  EXPECT_FALSE(e.CanUndo());
+  ASSERT_TRUE(e.CanRedo());
+  e.Redo();
+  EXPECT_EQ(e.Text(), "AA+b+c");
+  EXPECT_FALSE(e.CanRedo());
+
+  // Ungrouped edits stay separate steps, and a new edit drops what could be redone.
+  e.ReplaceRange(0, 0, "1");
+  e.ReplaceRange(0, 0, "2");
+  e.Undo();
+  EXPECT_EQ(e.Text(), "1AA+b+c");
+  e.ReplaceRange(0, 0, "3");
+  EXPECT_FALSE(e.CanRedo());
+  e.Undo();
+  e.Undo();
+  EXPECT_EQ(e.Text(), "AA+b+c");
+}
+
+TYPED_TEST_P(EditConformance, SavePointFollowsTheText) {
+  EditControl& e = this->Edit();
+  e.SetText("saved");
+  EXPECT_FALSE(e.IsModified());
+  e.SetSelStart(5);
+  this->Type("!");
+  EXPECT_TRUE(e.IsModified());
+  e.Undo();
+  EXPECT_FALSE(e.IsModified()) << "undo back to the saved text";
+  e.Redo();
+  EXPECT_TRUE(e.IsModified());
+  e.SetSavePoint();
+  EXPECT_FALSE(e.IsModified());
+  e.Undo();
+  EXPECT_TRUE(e.IsModified()) << "undo behind the save";
+
+  // Styling is no change; an emptied history keeps a changed text changed, even after
+  // an edit and its undo.
+  e.SetText("saved");
+  e.FillStyle(0, 3, 2);
+  EXPECT_FALSE(e.IsModified());
+  e.ReplaceRange(0, 1, "S");
+  e.EmptyUndoBuffer();
+  EXPECT_TRUE(e.IsModified());
+  e.ReplaceRange(0, 0, "x");
+  e.Undo();
+  EXPECT_TRUE(e.IsModified());
+  e.SetSavePoint();
+  e.EmptyUndoBuffer();
+  EXPECT_FALSE(e.IsModified()) << "emptied while unchanged";
+
+  // A new edit after undoing behind the save point: the saved text is out of reach.
+  e.SetText("abc");
+  e.ReplaceRange(0, 1, "X");
+  e.SetSavePoint();
+  e.Undo();
+  e.ReplaceRange(2, 1, "Y");
+  e.Undo();
+  EXPECT_TRUE(e.IsModified());
+  EXPECT_EQ(e.Text(), "abc");
+}
+
 TYPED_TEST_P(EditConformance, EnterTypesCrLf) {
   EditControl& e = this->Edit();
   e.SetText("ab");
@@ -453,6 +529,7 @@ REGISTER_TYPED_TEST_SUITE_P(
     ReplaceRangeKeepsTheSelectionOnItsText, InsertedTextTakesStyleOfPreviousCharacter,
     ExplicitInsertionStyleAppliesWhereItWasSet, ExplicitInsertionStyleForgottenWhenCaretMoves,
     UndoRestoresTextInInsertionStyle, StylingIsNotAChange, UndoOfTypingAndEmptyUndoBuffer,
-    EnterTypesCrLf, ChangeNotifications, WindowProperties);
+    EnterTypesCrLf, ChangeNotifications, WindowProperties, GroupedEditsUndoAndRedoAsOneStep,
+    SavePointFollowsTheText);
 
 }  // namespace tessarine

@@ -12,8 +12,8 @@
 
 #include "core/Application.h"
 #include "platform/HeadlessPlatform.h"
-#include "ui/Form2.h"
-#include "ui/MDIForm1.h"
+#include "ui/DocumentForm.h"
+#include "ui/MainWindow.h"
 #include "ui/SciEdit.h"
 #include "ui/WindowFixture.h"
 
@@ -27,7 +27,7 @@ class EditFixture : public WindowFixture {
     ASSERT_NE(Active(), nullptr);
   }
 
-  SciEdit& Edit() { return Active()->RichTextBox1(); }
+  SciEdit& Edit() { return Active()->Editor(); }
   // A fresh text in the active document, as after opening it.
   SciEdit& Document(const std::string& text) {
     Edit().SetText(text);

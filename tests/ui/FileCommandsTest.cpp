@@ -24,11 +24,11 @@
 #include "platform/HeadlessPlatform.h"
 #include "platform/MessageBoxes.h"
 #include "platform/SettingsStore.h"
-#include "ui/Form2.h"
-#include "ui/MDIForm1.h"
+#include "ui/DocumentForm.h"
+#include "ui/MainWindow.h"
 #include "ui/WindowFixture.h"
-#include "ui/files/frmTemplates.h"
-#include "ui/files/frmXMLdoc.h"
+#include "ui/files/TemplatesDialog.h"
+#include "ui/files/XmlDocumentDialog.h"
 
 namespace tessarine {
 namespace {
@@ -104,7 +104,7 @@ TEST_F(FileCommandsTest, TheNewDropDownMakesEachKind) {
   EXPECT_EQ(Active()->Caption(), "Untitled:2");
   EXPECT_EQ(Active()->Edit().Text().compare(0, 24, "<%@ Language=VBScript %>"), 0);
 
-  WhenModal<frmXMLdoc>([](frmXMLdoc& d) {
+  WhenModal<XmlDocumentDialog>([](XmlDocumentDialog& d) {
     d.findChild<QCheckBox*>("chkStandalone")->setChecked(true);
     d.findChild<QLineEdit*>("txtStyleSheetFilename")->setText("look.css");
     d.accept();
@@ -114,7 +114,7 @@ TEST_F(FileCommandsTest, TheNewDropDownMakesEachKind) {
             "<?xml version=\"1.0\" standalone=\"yes\"?>\r\n"
             "<?xml-stylesheet type=\"text/css\" href=\"look.css\"?>\r\n\r\n");
 
-  WhenModal<frmXMLdoc>([](frmXMLdoc& d) { d.reject(); });
+  WhenModal<XmlDocumentDialog>([](XmlDocumentDialog& d) { d.reject(); });
   button->menu()->actions()[3]->trigger();
   EXPECT_EQ(Active()->Caption(), "Untitled:4");
   EXPECT_EQ(Active()->Edit().Text(), "");
@@ -124,7 +124,7 @@ TEST_F(FileCommandsTest, NewShowsTheTemplatesOfTheApplicationFolder) {
   std::ofstream(Path("Plain.tzt"), std::ios::binary) << "<P>template\r\n";
   std::ofstream(Path("notes.txt"), std::ios::binary) << "not one";
   Start();
-  WhenModal<frmTemplates>([](frmTemplates& d) {
+  WhenModal<TemplatesDialog>([](TemplatesDialog& d) {
     ASSERT_EQ(d.File1()->count(), 1);
     EXPECT_EQ(d.File1()->item(0)->text(), "Plain.tzt");
     d.File1()->setCurrentRow(0);
@@ -135,7 +135,7 @@ TEST_F(FileCommandsTest, NewShowsTheTemplatesOfTheApplicationFolder) {
   EXPECT_EQ(Active()->Edit().Text(), "<P>template");
 
   // Nothing chosen: the ordinary skeleton.
-  WhenModal<frmTemplates>([](frmTemplates& d) { d.OK(); });
+  WhenModal<TemplatesDialog>([](TemplatesDialog& d) { d.OK(); });
   frame->Command("mnuNewFile")->trigger();
   EXPECT_EQ(Active()->Caption(), "Untitled:3");
   EXPECT_EQ(Active()->Edit().Text().compare(0, 9, "<!DOCTYPE"), 0);

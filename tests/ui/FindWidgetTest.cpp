@@ -1,5 +1,7 @@
 // Find and replace through the window: the modeless dialog, Find Next and the find box.
 
+#include <Qsci/qscicommandset.h>
+
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
@@ -28,12 +30,12 @@ TEST_F(FindWidget, ReplaceAllFromTheDialogOverTheSelection) {
   SciEdit& e = Document("<p>old</p> old OLD");
   e.Select(3, 3);
   frame->Command("mnuReplace")->trigger();
-  auto* dialog = frame->findChild<frmFindReplace*>("frmFindReplace");
+  auto* dialog = frame->findChild<FindReplaceDialog*>("FindReplaceDialog");
   ASSERT_NE(dialog, nullptr);
   EXPECT_TRUE(dialog->isVisible());
   EXPECT_FALSE(dialog->isModal());
   EXPECT_EQ(dialog->windowTitle(), "Find/Replace");
-  EXPECT_EQ(Child<QTabBar>(dialog, "TabStrip1")->currentIndex(), 1);
+  EXPECT_EQ(Child<QTabBar>(dialog, "findTabs")->currentIndex(), 1);
   EXPECT_EQ(Child<QLineEdit>(dialog, "txtFind")->text(), "old");
   EXPECT_TRUE(Child<QRadioButton>(dialog, "optDirectionDown")->isChecked());
 
@@ -47,14 +49,26 @@ TEST_F(FindWidget, ReplaceAllFromTheDialogOverTheSelection) {
             "made");
   EXPECT_FALSE(dialog->isVisible());
   EXPECT_TRUE(app->documents.State(1).Changed);
+
+  // The whole run is one step back and one step forward, from the menu and its keys.
+  frame->Command("mnuUndo")->trigger();
+  EXPECT_EQ(e.Text(), "<p>old</p> old OLD");
+  EXPECT_FALSE(e.CanUndo());
+  frame->Command("mnuRedo")->trigger();
+  EXPECT_EQ(e.Text(), "<p>new</p> new new");
+  EXPECT_EQ(frame->Command("mnuRedo")->shortcuts(),
+            (QList<QKeySequence>{QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")}));
+  for (const char* keys : {"Ctrl+Z", "Ctrl+Y", "Ctrl+Shift+Z"})
+    EXPECT_EQ(e.standardCommands()->boundTo(QKeySequence(keys)[0].toCombined()), nullptr)
+        << keys << " is the menu's";
 }
 
 TEST_F(FindWidget, FindNextWithCaseAndFromTheMenu) {
   SciEdit& e = Document("Word word WORD word");
   frame->Button("tbrFile", "Find")->trigger();
-  auto* dialog = frame->findChild<frmFindReplace*>("frmFindReplace");
+  auto* dialog = frame->findChild<FindReplaceDialog*>("FindReplaceDialog");
   ASSERT_NE(dialog, nullptr);
-  EXPECT_EQ(Child<QTabBar>(dialog, "TabStrip1")->currentIndex(), 0);
+  EXPECT_EQ(Child<QTabBar>(dialog, "findTabs")->currentIndex(), 0);
   EXPECT_FALSE(Child<QPushButton>(dialog, "cmdReplaceAll")->isVisible());
   Child<QLineEdit>(dialog, "txtFind")->setText("word");
   Child<QCheckBox>(dialog, "chkCase")->setChecked(true);

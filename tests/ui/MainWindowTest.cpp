@@ -17,13 +17,13 @@
 #include "core/Application.h"
 #include "core/Styles.h"
 #include "platform/FileDialogs.h"
-#include "platform/MessageBoxes.h"
 #include "platform/HeadlessPlatform.h"
+#include "platform/MessageBoxes.h"
 #include "platform/SettingsStore.h"
-#include "ui/Form2.h"
-#include "ui/MDIForm1.h"
-#include "ui/WindowFixture.h"
+#include "ui/DocumentForm.h"
+#include "ui/MainWindow.h"
 #include "ui/SciEdit.h"
+#include "ui/WindowFixture.h"
 
 namespace tessarine {
 namespace {
@@ -55,7 +55,7 @@ TEST_F(MainWindowTest, FirstStartShowsUntitledOneWithTheFramesToolbars) {
   EXPECT_EQ(frame->Button("tbrInsert", "Frames")->toolTip(), "Frame Wizard");
   EXPECT_TRUE(frame->Button("tbrFormat", "Bold")->isEnabled());
   // Commands of later parts are present but dimmed.
-  EXPECT_FALSE(frame->Button("tbrInsert", "Hyperlink")->isEnabled());
+  EXPECT_FALSE(frame->Button("tbrInsert", "Page Properties")->isEnabled());
   // Nothing changed yet: no Save.
   EXPECT_FALSE(frame->Button("tbrFile", "Save")->isEnabled());
 }
@@ -179,7 +179,7 @@ TEST_F(MainWindowTest, SlotsAreReusedLowestFirst) {
   frame->Button("tbrFile", "New")->trigger();
   auto subs = frame->MdiArea()->subWindowList(QMdiArea::CreationOrder);
   ASSERT_EQ(subs.size(), 3);
-  auto* first = qobject_cast<Form2*>(subs[0]->widget());
+  auto* first = qobject_cast<DocumentForm*>(subs[0]->widget());
   ASSERT_TRUE(first->RequestClose());
   QApplication::processEvents();
   frame->Button("tbrFile", "New")->trigger();

@@ -22,12 +22,12 @@
 #include "core/Startup.h"
 #include "platform/HeadlessPlatform.h"
 #include "support/SettingsChecks.h"
-#include "ui/Form2.h"
-#include "ui/MDIForm1.h"
-#include "ui/WindowFixture.h"
+#include "ui/DocumentForm.h"
+#include "ui/MainWindow.h"
 #include "ui/Printing.h"
 #include "ui/QtPlatform.h"
 #include "ui/SciEdit.h"
+#include "ui/WindowFixture.h"
 
 namespace tessarine {
 namespace {
@@ -149,7 +149,7 @@ TEST_F(ProgramCommandsTest, PrintAsksThenShowsThePrintDialog) {
 
 TEST_F(ProgramCommandsTest, AcceptedPrintDialogPrintsTheText) {
   Start();
-  auto* form = dynamic_cast<Form2*>(frame->ActiveDocumentWindow());
+  auto* form = dynamic_cast<DocumentForm*>(frame->ActiveDocumentWindow());
   ASSERT_NE(form, nullptr);
   form->Edit().SetText("<P>printed</P>");
   QsciPrinter printer;
@@ -157,7 +157,7 @@ TEST_F(ProgramCommandsTest, AcceptedPrintDialogPrintsTheText) {
   const QString pdf = dir.path() + "/out.pdf";
   printer.setOutputFileName(pdf);
   AnswerNextDialog(true);
-  EXPECT_TRUE(PrintDocument(frame.get(), form->RichTextBox1(), printer));
+  EXPECT_TRUE(PrintDocument(frame.get(), form->Editor(), printer));
   EXPECT_TRUE(dialogShown);
   QFile out(pdf);
   ASSERT_TRUE(out.open(QIODevice::ReadOnly));

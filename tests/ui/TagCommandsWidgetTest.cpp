@@ -13,6 +13,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -21,11 +22,11 @@
 #include "core/Application.h"
 #include "platform/EditControl.h"
 #include "platform/HeadlessPlatform.h"
-#include "ui/Form2.h"
-#include "ui/MDIForm1.h"
-#include "ui/WindowFixture.h"
+#include "ui/DocumentForm.h"
+#include "ui/MainWindow.h"
 #include "ui/SciEdit.h"
-#include "ui/wizards/SSListBar.h"
+#include "ui/WindowFixture.h"
+#include "ui/wizards/ShortcutBar.h"
 
 namespace tessarine {
 namespace {
@@ -44,20 +45,6 @@ class TagCommandsWidget : public WindowFixture {
     Edit().SetText(text);
     Edit().Select(selStart, selLength);
   }
-  // Acts on the next modal dialog once it is up.
-  void OnDialog(std::function<void(QDialog*)> act) {
-    QTimer::singleShot(0, frame.get(), [act] {
-      auto* d = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-      ASSERT_NE(d, nullptr);
-      act(d);
-    });
-  }
-  template <class T>
-  static T* Child(QDialog* d, const char* name) {
-    T* w = d->findChild<T*>(name);
-    EXPECT_NE(w, nullptr) << name;
-    return w;
-  }
 };
 
 TEST_F(TagCommandsWidget, MenusButtonsAndShortcutBarRunTheirCommands) {
@@ -75,7 +62,7 @@ TEST_F(TagCommandsWidget, MenusButtonsAndShortcutBarRunTheirCommands) {
   frame->findChild<QMenu*>("tbrFormatBRMenu")->findChild<QAction*>("BRClearAll")->trigger();
   EXPECT_EQ(Edit().Text(), "[<!--<BR CLEAR=\"All\">-->]");
 
-  auto* bar = frame->findChild<ui::SSListBar*>("SSListBar1");
+  auto* bar = frame->findChild<ui::ShortcutBar*>("ShortcutBar");
   ASSERT_NE(bar, nullptr);
   Text("x", 0, 1);
   EXPECT_TRUE(bar->ClickKey("ASP%="));
@@ -95,36 +82,42 @@ TEST_F(TagCommandsWidget, MenusButtonsAndShortcutBarRunTheirCommands) {
 }
 
 TEST_F(TagCommandsWidget, TheEditorLeavesTheTagShortcutsToTheMenus) {
-  auto* form = qobject_cast<Form2*>(frame->MdiArea()->currentSubWindow()->widget());
+  auto* form = qobject_cast<DocumentForm*>(frame->MdiArea()->currentSubWindow()->widget());
   ASSERT_NE(form, nullptr);
   for (Qt::Key key : {Qt::Key_B, Qt::Key_I, Qt::Key_U, Qt::Key_K, Qt::Key_H}) {
     QKeyEvent override(QEvent::ShortcutOverride, key, Qt::ControlModifier);
     override.ignore();
-    QApplication::sendEvent(&form->RichTextBox1(), &override);
+    QApplication::sendEvent(&form->Editor(), &override);
     EXPECT_FALSE(override.isAccepted()) << key;
   }
   EXPECT_EQ(frame->Command("mnuPhysicalStyles6")->shortcut(), QKeySequence("Ctrl+U"));
   // Its other keys stay its own.
   QKeyEvent lineCut(QEvent::ShortcutOverride, Qt::Key_L, Qt::ControlModifier);
   lineCut.ignore();
-  QApplication::sendEvent(&form->RichTextBox1(), &lineCut);
+  QApplication::sendEvent(&form->Editor(), &lineCut);
   EXPECT_TRUE(lineCut.isAccepted());
 }
 
 TEST_F(TagCommandsWidget, LaterWizardsStayDimmed) {
-  for (const char* name : {"mnuHypertext", "Graphics", "mnuTableMaker", "mnuForm"})
-    EXPECT_FALSE(frame->Command(name)->isEnabled()) << name;
-  EXPECT_FALSE(frame->Button("tbrInsert", "Hyperlink")->isEnabled());
-  EXPECT_FALSE(frame->Button("tbrInsert", "Table Wizard")->isEnabled());
+  // Page properties come later.
+  EXPECT_FALSE(frame->Button("tbrInsert", "Page Properties")->isEnabled());
   EXPECT_TRUE(frame->Button("tbrInsert", "Special Characters")->isEnabled());
   EXPECT_TRUE(frame->Button("tbrFormat", "BR")->isEnabled());
-  auto* bar = frame->findChild<ui::SSListBar*>("SSListBar1");
-  EXPECT_TRUE(bar->HasKey("FormWizard"));
-  EXPECT_FALSE(bar->ClickKey("FormWizard"));
+  auto* bar = frame->findChild<ui::ShortcutBar*>("ShortcutBar");
+  // The custom button's key waits for the preferences.
+  EXPECT_TRUE(bar->HasKey("Add custom button"));
+  EXPECT_FALSE(bar->ClickKey("Add custom button"));
+  // Its table wizard is there now: the key opens it.
+  EXPECT_TRUE(bar->HasKey("TableWizard"));
+  OnDialog([](QDialog* d) {
+    EXPECT_EQ(d->objectName(), "TableWizardDialog");
+    d->reject();
+  });
+  EXPECT_TRUE(bar->ClickKey("TableWizard"));
 }
 
 TEST_F(TagCommandsWidget, ShortcutBarOpensAndRemembersItsGroup) {
-  auto* bar = frame->findChild<ui::SSListBar*>("SSListBar1");
+  auto* bar = frame->findChild<ui::ShortcutBar*>("ShortcutBar");
   EXPECT_EQ(bar->currentIndex(), 2);
   bar->setCurrentIndex(3);
   for (int i = 1; i <= app->documents.UpperBound(); ++i) app->documents.State(i).Changed = false;
@@ -136,10 +129,10 @@ TEST_F(TagCommandsWidget, FormatButtonOpensTheFormatDialog) {
   Text("a word", 2, 4);
   OnDialog([](QDialog* d) {
     EXPECT_EQ(d->objectName(), "FormatChar");
-    Child<QLineEdit>(d, "Text1")->setText("FF0000");
-    Child<QCheckBox>(d, "Check1")->setChecked(true);
-    Child<QComboBox>(d, "Combo2")->setCurrentText("Subscript");
-    Child<QAbstractButton>(d, "Command3")->click();
+    Child<QLineEdit>(d, "colorHex")->setText("FF0000");
+    Child<QCheckBox>(d, "bold")->setChecked(true);
+    Child<QComboBox>(d, "position")->setCurrentText("Subscript");
+    Child<QAbstractButton>(d, "okButton")->click();
   });
   frame->Button("tbrFormat", "Format")->trigger();
   EXPECT_EQ(Edit().Text(), "a <FONT COLOR=\"#FF0000\"><B><SUB>word</SUB></B></FONT>");
@@ -148,10 +141,10 @@ TEST_F(TagCommandsWidget, FormatButtonOpensTheFormatDialog) {
 TEST_F(TagCommandsWidget, HorizontalLineDialogWritesThroughHeadAndBody) {
   Text("<HTML><BODY>\r\nab</BODY></HTML>", 15, 0);
   OnDialog([](QDialog* d) {
-    EXPECT_EQ(d->objectName(), "frmHorizLine");
-    Child<QLineEdit>(d, "Text2")->setText("50%");
+    EXPECT_EQ(d->objectName(), "HorizontalLine");
+    Child<QLineEdit>(d, "lineWidth")->setText("50%");
     Child<QComboBox>(d, "cmbAlign")->setCurrentText("Right");
-    Child<QAbstractButton>(d, "Command1")->click();
+    Child<QAbstractButton>(d, "okButton")->click();
   });
   frame->Button("tbrFormat", "HR")->trigger();
   EXPECT_EQ(Edit().Text(),
@@ -161,13 +154,13 @@ TEST_F(TagCommandsWidget, HorizontalLineDialogWritesThroughHeadAndBody) {
 TEST_F(TagCommandsWidget, MetatagsStayOpenOnAFailedCheckAndWriteTheHead) {
   Text("<HTML><HEAD></HEAD><BODY></BODY></HTML>", 0, 0);
   OnDialog([this](QDialog* d) {
-    Child<QLineEdit>(d, "Text2")->setText("a, b");
-    Child<QCheckBox>(d, "Check1")->setChecked(true);
-    Child<QAbstractButton>(d, "Command1")->click();
+    Child<QLineEdit>(d, "keywords")->setText("a, b");
+    Child<QCheckBox>(d, "splashScreen")->setChecked(true);
+    Child<QAbstractButton>(d, "okButton")->click();
     EXPECT_TRUE(d->isVisible());
     ASSERT_EQ(messages.shown().size(), 1u);
-    Child<QCheckBox>(d, "Check1")->setChecked(false);
-    Child<QAbstractButton>(d, "Command1")->click();
+    Child<QCheckBox>(d, "splashScreen")->setChecked(false);
+    Child<QAbstractButton>(d, "okButton")->click();
   });
   frame->Command("mnuMetaTags")->trigger();
   EXPECT_EQ(Edit().Text(),
@@ -183,19 +176,19 @@ TEST_F(TagCommandsWidget, DateStampAndScriptBlockFromMenuAndShortcutBar) {
   Text("", 0, 0);
   OnDialog([](QDialog* d) {
     EXPECT_EQ(d->objectName(), "DateTime");
-    Child<QComboBox>(d, "Combo1")->setCurrentText("May 2002");
-    Child<QAbstractButton>(d, "Command1")->click();
+    Child<QComboBox>(d, "formatRow")->setCurrentText("May 2002");
+    Child<QAbstractButton>(d, "okButton")->click();
   });
   frame->Command("mnuDateTime")->trigger();
   EXPECT_EQ(Edit().Text(), "This page last updated November 2026");
 
   Text("go()", 0, 4);
   OnDialog([](QDialog* d) {
-    EXPECT_EQ(d->objectName(), "frmScriptTags");
+    EXPECT_EQ(d->objectName(), "ScriptTags");
     Child<QComboBox>(d, "cmbLanguage")->setCurrentText("JScript");
     Child<QAbstractButton>(d, "cmdOK")->click();
   });
-  EXPECT_TRUE(frame->findChild<ui::SSListBar*>("SSListBar1")->ClickKey("Script tags"));
+  EXPECT_TRUE(frame->findChild<ui::ShortcutBar*>("ShortcutBar")->ClickKey("Script tags"));
   EXPECT_EQ(Edit().Text(),
             "\r\n\r\n<SCRIPT TYPE=\"text/VBScript\" LANGUAGE=\"JScript\">\r\n<!--\r\ngo()\r\n\r\n"
             "//-->\r\n</SCRIPT>\r\n\r\n");
@@ -207,6 +200,11 @@ TEST_F(TagCommandsWidget, SpecialCharactersStayOpenForSeveralCells) {
     Child<QAbstractButton>(d, "cell1_6")->click();
     Child<QAbstractButton>(d, "cell2_8")->click();
     EXPECT_TRUE(d->isVisible());
+    // Every cell shows one character: no entity text, no "&" taken for a mnemonic.
+    for (QAbstractButton* cell : d->findChildren<QAbstractButton*>(QRegularExpression("^cell")))
+      EXPECT_EQ(QString(cell->text()).replace("&&", "\x01").remove('&').size(), 1)
+          << cell->objectName().toStdString() << " " << cell->text().toStdString();
+    EXPECT_EQ(Child<QAbstractButton>(d, "cell1_6")->text(), QString::fromUtf16(u"\u00C6"));
     d->reject();
   });
   frame->Button("tbrInsert", "Special Characters")->trigger();

@@ -5,16 +5,20 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDialog>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <fstream>
+#include <functional>
 #include <memory>
 #include <sstream>
 #include <string>
 
 #include "core/Application.h"
+#include "core/Documents.h"
 #include "platform/HeadlessPlatform.h"
-#include "ui/Form2.h"
-#include "ui/MDIForm1.h"
+#include "ui/DocumentForm.h"
+#include "ui/MainWindow.h"
 
 namespace tessarine {
 
@@ -32,7 +36,7 @@ class WindowFixture : public ::testing::Test {
     qputenv("XDG_DATA_HOME", (dir.path() + "/data").toUtf8());
   }
   void Start(const std::string& commandLine = "") {
-    frame = std::make_unique<MDIForm1>();
+    frame = std::make_unique<MainWindow>();
     app = std::make_unique<Application>(
         Platform{*frame, messages, store, dialogs, headless.colorDialog,
                  watchedShell ? *watchedShell : headless.shell, headless.clipboard, headless.images,
@@ -45,11 +49,25 @@ class WindowFixture : public ::testing::Test {
   void TearDown() override {
     if (!frame) return;
     // Nothing left to ask about: close quietly.
-    for (int i = 1; i <= app->documents.UpperBound(); ++i) app->documents.State(i).Changed = false;
+    for (int i = 1; i <= app->documents.UpperBound(); ++i) MarkDocumentUnchanged(*app, i);
     frame->close();
     QApplication::processEvents();
   }
-  Form2* Active() { return dynamic_cast<Form2*>(frame->ActiveDocumentWindow()); }
+  DocumentForm* Active() { return dynamic_cast<DocumentForm*>(frame->ActiveDocumentWindow()); }
+  // Acts on the next modal dialog once it is up.
+  void OnDialog(std::function<void(QDialog*)> act) {
+    QTimer::singleShot(0, frame.get(), [act] {
+      auto* d = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      ASSERT_NE(d, nullptr);
+      act(d);
+    });
+  }
+  template <class T>
+  static T* Child(QWidget* parent, const char* name) {
+    T* w = parent->findChild<T*>(name);
+    EXPECT_NE(w, nullptr) << name;
+    return w;
+  }
   std::string Path(const char* name) { return (dir.path() + "/" + name).toStdString(); }
 
   QTemporaryDir dir;
@@ -58,7 +76,7 @@ class WindowFixture : public ::testing::Test {
   ScriptedFileDialogs dialogs;
   Shell* watchedShell = nullptr;  // set before Start to watch program starts
   HeadlessPlatform headless;
-  std::unique_ptr<MDIForm1> frame;
+  std::unique_ptr<MainWindow> frame;
   std::unique_ptr<Application> app;
 };
 

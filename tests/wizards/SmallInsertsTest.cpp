@@ -6,10 +6,10 @@
 #include "core/TestApp.h"
 #include "wizards/DateTime.h"
 #include "wizards/FormatChar.h"
+#include "wizards/HorizontalLine.h"
 #include "wizards/Metatags.h"
+#include "wizards/ScriptTags.h"
 #include "wizards/Vowels.h"
-#include "wizards/frmHorizLine.h"
-#include "wizards/frmScriptTags.h"
 
 namespace tessarine {
 namespace {
@@ -29,29 +29,29 @@ TEST_F(SmallInserts, FormatCharNestsFontStylesAndPosition) {
   Open("a word here", true);
   edit->Select(2, 4);
   FormatChar f;
-  f.Text1 = "FF0000";
-  f.Check1 = true;
-  f.Combo2 = "Subscript";
+  f.colorHex = "FF0000";
+  f.bold = true;
+  f.position = "Subscript";
   FormatChar_OK(t.app, f);
   EXPECT_EQ(edit->Text(), "a <FONT COLOR=\"#FF0000\"><B><SUB>word</SUB></B></FONT> here");
   EXPECT_EQ(edit->SelText(), "word");
 
   FormatChar all;
-  all.Combo3 = "Arial";
-  all.Text1 = "00FF00";
-  all.Combo1 = "7 - large";
-  all.Check1 = all.Check2 = all.Check3 = all.Check4 = all.Check5 = true;
-  all.Check7 = all.Check9 = all.Check10 = all.Check12 = all.Check13 = all.Check14 = true;
-  all.Combo2 = "Superscript";
+  all.fontFace = "Arial";
+  all.colorHex = "00FF00";
+  all.sizeRow = "7 - large";
+  all.bold = all.italic = all.underline = all.strikeThrough = all.teletype = true;
+  all.code = all.emphasis = all.keyboard = all.sample = all.strong = all.variable = true;
+  all.position = "Superscript";
   const FormatChar::Tags tags = all.Build();
   EXPECT_EQ(tags.start,
             "<FONT FACE=\"Arial\" COLOR=\"#00FF00\" SIZE=\"7\"><B><I><U><S><TT><CODE><EM><KBD>"
             "<SAMP><STRONG><VAR><SUP>");
   EXPECT_EQ(tags.end, "</SUP></VAR></STRONG></SAMP></KBD></EM></CODE></TT></S></U></I></B></FONT>");
   FormatChar sized;
-  sized.Combo1 = "1 - small";
+  sized.sizeRow = "1 - small";
   EXPECT_EQ(sized.Build().start, "<FONT SIZE=\"1\">");
-  sized.Combo1 = "4";
+  sized.sizeRow = "4";
   EXPECT_EQ(sized.Build().start, "<FONT SIZE=\"4\">");
 }
 
@@ -59,7 +59,7 @@ TEST_F(SmallInserts, FormatCharInLowerCaseFoldsTheFontAndRemembersIt) {
   Open("x", false);
   edit->Select(0, 1);
   FormatChar f;
-  f.Combo3 = "Times New Roman";
+  f.fontFace = "Times New Roman";
   FormatChar_OK(t.app, f);
   EXPECT_EQ(edit->Text(), "<font face=\"times new roman\">x</font>");
   EXPECT_EQ(RecentFontName(t.app), "Times New Roman");
@@ -101,22 +101,22 @@ TEST_F(SmallInserts, VowelsInsertAsTheyStandAndEmptyTheUndoHistory) {
 }
 
 TEST_F(SmallInserts, HorizontalLineIsAlwaysLowerCase) {
-  frmHorizLine h;
-  h.Text2 = "50%";
-  h.Check1 = true;
+  HorizontalLine h;
+  h.lineWidth = "50%";
+  h.noShading = true;
   h.cmbAlign = "Center ";
   EXPECT_EQ(h.Build(true), "<hr size=\"1\" width=\"50%\" noshade align=\"center\">");
-  h = frmHorizLine{};
-  h.Text1 = "";
+  h = HorizontalLine{};
+  h.thickness = "";
   EXPECT_EQ(h.Build(true), "<hr>");
 
   // Through the menu in upper case, inside the body.
   Open("<HTML><BODY>\r\nab\r\n</BODY></HTML>", true);
   edit->SetSelStart(15);
-  ASSERT_EQ(mnuHR(t.app), "frmHorizLine");
-  frmHorizLine form;
-  form.Text2 = "80";
-  frmHorizLine_OK(t.app, form);
+  ASSERT_EQ(mnuHR(t.app), "HorizontalLine");
+  HorizontalLine form;
+  form.lineWidth = "80";
+  HorizontalLine_OK(t.app, form);
   mnuHR_Finish(t.app);
   EXPECT_EQ(edit->Text(), "<HTML><BODY>\r\na<hr size=\"1\" width=\"80\">b\r\n</BODY></HTML>");
 }
@@ -124,15 +124,15 @@ TEST_F(SmallInserts, HorizontalLineIsAlwaysLowerCase) {
 TEST_F(SmallInserts, MetatagsWriteOnlyWhatWasFilled) {
   Open("", true);
   Metatags m;
-  m.Text2 = "html, Editor";
+  m.keywords = "html, Editor";
   EXPECT_FALSE(Metatags_OK(t.app, m));
   EXPECT_EQ(t.app.wizards.MetaDescription, "");
   EXPECT_EQ(t.app.wizards.MetaKeywords, "<META Name=\"keywords\" Content=\"html, Editor\">\r\n");
 
-  m.Text1 = "My page";
-  m.Check1 = true;
-  m.Text3 = " 5 ";
-  m.Text4 = "next.htm";
+  m.description = "My page";
+  m.splashScreen = true;
+  m.refreshSeconds = " 5 ";
+  m.nextPageUrl = "next.htm";
   t.app.settings.TagCaseUpper = false;
   EXPECT_FALSE(Metatags_OK(t.app, m));
   EXPECT_EQ(t.app.wizards.MetaDescription, "<meta name=\"description\" Content=\"My page\">\r\n");
@@ -143,11 +143,11 @@ TEST_F(SmallInserts, MetatagsWriteOnlyWhatWasFilled) {
 TEST_F(SmallInserts, MetatagsSplashNeedsSecondsAndUrl) {
   Open("", true);
   Metatags m;
-  m.Check1 = true;
-  m.Text3 = "5";
+  m.splashScreen = true;
+  m.refreshSeconds = "5";
   const CheckResult failed = Metatags_OK(t.app, m);
   ASSERT_TRUE(failed);
-  EXPECT_EQ(failed->field, "Text4");
+  EXPECT_EQ(failed->field, "nextPageUrl");
   ASSERT_EQ(t.messages.shown().size(), 1u);
   EXPECT_EQ(t.messages.shown()[0].text,
             "Please enter the number of seconds and the Web page URL for the splash screen.");
@@ -172,19 +172,19 @@ TEST_F(SmallInserts, DateTimeRowsInTheirOrder) {
                                    "9:05 PM",
                                    "3/07/26  9:05 PM"};
   for (std::size_t i = 0; i < 8; ++i) {
-    d.Combo1 = DateTimeRows()[i];
-    EXPECT_EQ(d.Build(now), "This page last updated " + expected[i]) << d.Combo1;
+    d.formatRow = DateTimeRows()[i];
+    EXPECT_EQ(d.Build(now), "This page last updated " + expected[i]) << d.formatRow;
   }
-  d.Combo1 = "something else";
+  d.formatRow = "something else";
   EXPECT_EQ(d.Build(now), "");
 
   Open("x", false);
   t.platform.clock.Set(now);
-  d.Combo1 = "5/28/02";  // ends in "02", not "PM": the date alone
-  d.Text1 = "Updated";
+  d.formatRow = "5/28/02";  // ends in "02", not "PM": the date alone
+  d.leadingText = "Updated";
   EXPECT_FALSE(DateTime_OK(t.app, d));
   EXPECT_EQ(edit->Text(), "Updated 3/07/26x");
-  d.Combo1 = "";
+  d.formatRow = "";
   ASSERT_TRUE(DateTime_OK(t.app, d));
   EXPECT_EQ(t.messages.shown().back().text, "Select a Date/Time format.");
   EXPECT_EQ(edit->Text(), "Updated 3/07/26x");
@@ -196,11 +196,11 @@ TEST_F(SmallInserts, ScriptTagsTypeRunAtAndSource) {
   EXPECT_EQ(ScriptType("Jscript"), "text/JScript");
   EXPECT_EQ(ScriptType("VBScript"), "text/VBScript");
 
-  frmScriptTags s;
+  ScriptTags s;
   s.cmbLanguage = "JScript";
   s.chkRunAtServer = true;
   s.txtSrc = " lib.js ";
-  const frmScriptTags::Tags tags = s.Build(true);
+  const ScriptTags::Tags tags = s.Build(true);
   EXPECT_EQ(tags.start,
             "\r\n\r\n<SCRIPT TYPE=\"text/VBScript\" LANGUAGE=\"JScript\" RUNAT=\"Server\" "
             "SRC=\"lib.js\">\r\n<!--\r\n");
@@ -214,15 +214,15 @@ TEST_F(SmallInserts, ScriptTagsTypeRunAtAndSource) {
 TEST_F(SmallInserts, ScriptTagsGoIntoTheHeadWhenAsked) {
   Open("<html><head><title>t</title></head><body>x</body></html>", false);
   edit->SetSelStart(46);
-  frmScriptTags s;
+  ScriptTags s;
   s.chkInsertIntoHead = true;
-  EXPECT_FALSE(frmScriptTags_OK(t.app, s));
+  EXPECT_FALSE(ScriptTags_OK(t.app, s));
   EXPECT_EQ(edit->Text(),
             "<html><head><title>t</title>\r\n\r\n<script type=\"text/javascript\" "
             "language=\"javascript\">\r\n<!--\r\n\r\n\r\n//-->\r\n</script>\r\n\r\n</head><body>x"
             "</body></html>");
   s.cmbLanguage = "";
-  ASSERT_TRUE(frmScriptTags_OK(t.app, s));
+  ASSERT_TRUE(ScriptTags_OK(t.app, s));
   EXPECT_EQ(t.messages.shown().back().text, "Please select a language.");
 }
 

@@ -5,7 +5,7 @@
 
 #include "core/Application.h"
 #include "core/RecentFiles.h"
-#include "ui/MDIForm1.h"
+#include "ui/MainWindow.h"
 
 namespace tessarine {
 
@@ -15,8 +15,8 @@ QString Name(int i) {
 }
 }  // namespace
 
-void AddRecentFileEntries(MDIForm1& frame, QMenu* menu) {
-  MDIForm1* f = &frame;
+void AddRecentFileEntries(MainWindow& frame, QMenu* menu) {
+  MainWindow* f = &frame;
   QAction* separator = frame.AddCommand(menu, Name(0), "", false, [] {});
   separator->setSeparator(true);
   separator->setVisible(false);
@@ -32,7 +32,7 @@ void AddRecentFileEntries(MDIForm1& frame, QMenu* menu) {
   }
 }
 
-void ShowRecentFileEntries(MDIForm1& frame) {
+void ShowRecentFileEntries(MainWindow& frame) {
   Application* app = frame.App();
   if (!app) return;
   const RecentFileMenu& menu = app->files.recentMenu;

@@ -6,11 +6,11 @@ class QMenu;
 
 namespace tessarine {
 
-class MDIForm1;
+class MainWindow;
 
 // Adds mnuRecentFile0 (the separator) to mnuRecentFile10, all hidden.
-void AddRecentFileEntries(MDIForm1& frame, QMenu* menu);
+void AddRecentFileEntries(MainWindow& frame, QMenu* menu);
 // Shows the entries as the application's recent-file menu stands.
-void ShowRecentFileEntries(MDIForm1& frame);
+void ShowRecentFileEntries(MainWindow& frame);
 
 }  // namespace tessarine

@@ -20,14 +20,14 @@ CheckedAnswer QtCheckedQuestions::Ask(const CheckedQuestion& question) {
   dialog.setObjectName("CheckedQuestion");
   dialog.setWindowTitle(Q(question.title));
   auto* text = new QLabel(Q(question.text).replace("\r\n", "\n"));
-  text->setObjectName("Label1");
+  text->setObjectName("questionText");
   text->setWordWrap(true);
   auto* yes = new QPushButton(Q(question.yesCaption));
-  yes->setObjectName("Command1");
+  yes->setObjectName("yesButton");
   auto* no = new QPushButton(Q(question.noCaption));
-  no->setObjectName("Command2");
+  no->setObjectName("noButton");
   auto* check = new QCheckBox(Q(question.checkCaption));
-  check->setObjectName("Check1");
+  check->setObjectName("dontAskAgain");
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();
   buttons->addWidget(yes);

@@ -7,12 +7,12 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
-#include "wizards/frmScriptTags.h"
+#include "wizards/ScriptTags.h"
 
 namespace tessarine::ui {
 
-frmScriptTags::frmScriptTags(Application& app, QWidget* parent)
-    : WizardDialog(app, "frmScriptTags", "Script Tags", parent) {
+ScriptTagsDialog::ScriptTagsDialog(Application& app, QWidget* parent)
+    : WizardDialog(app, "ScriptTags", "Script Tags", parent) {
   auto* layout = new QVBoxLayout(this);
   auto* form = new QFormLayout;
   cmbLanguage_ = new QComboBox;
@@ -43,14 +43,14 @@ frmScriptTags::frmScriptTags(Application& app, QWidget* parent)
   connect(cmbLanguage_, &QComboBox::currentTextChanged, this, adjust);
 
   AddButtons(layout, "cmdOK", [this] {
-    const CheckResult failed = frmScriptTags_OK(app_, Model());
+    const CheckResult failed = ScriptTags_OK(app_, Model());
     FocusField(failed);
     return !failed;
   });
 }
 
-tessarine::frmScriptTags frmScriptTags::Model() const {
-  tessarine::frmScriptTags m;
+tessarine::ScriptTags ScriptTagsDialog::Model() const {
+  tessarine::ScriptTags m;
   m.cmbLanguage = S(cmbLanguage_->currentText());
   m.chkRunAtServer = chkRunAtServer_->isChecked();
   m.txtSrc = txtSrc_->isEnabled() ? S(txtSrc_->text()) : "";

@@ -1,5 +1,5 @@
 #pragma once
-// frmScriptTags: a SCRIPT block around the selection.
+// ScriptTags: a SCRIPT block around the selection.
 
 #include "ui/wizards/WizardDialog.h"
 
@@ -8,15 +8,15 @@ class QComboBox;
 class QLineEdit;
 
 namespace tessarine {
-struct frmScriptTags;
+struct ScriptTags;
 }
 
 namespace tessarine::ui {
 
-class frmScriptTags : public WizardDialog {
+class ScriptTagsDialog : public WizardDialog {
  public:
-  frmScriptTags(Application& app, QWidget* parent);
-  tessarine::frmScriptTags Model() const;
+  ScriptTagsDialog(Application& app, QWidget* parent);
+  tessarine::ScriptTags Model() const;
 
  private:
   QComboBox* cmbLanguage_;

@@ -4,8 +4,8 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 
+#include "conventions/TagConventions.h"
 #include "core/Application.h"
-#include "wizards/TagConventions.h"
 
 namespace tessarine::ui {
 

@@ -6,7 +6,7 @@
 #include <functional>
 #include <string>
 
-#include "wizards/WizardCheck.h"
+#include "conventions/WizardCheck.h"
 
 class QBoxLayout;
 class QPushButton;

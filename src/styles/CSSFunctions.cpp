@@ -1,0 +1,345 @@
+#include "styles/CSSFunctions.h"
+
+#include <algorithm>
+
+#include "core/Application.h"
+#include "core/TextServices.h"
+#include "platform/DocumentWindow.h"
+#include "platform/EditControl.h"
+#include "styles/StyleState.h"
+
+namespace tessarine {
+
+namespace {
+
+constexpr auto npos = std::string_view::npos;
+
+std::string_view TrimBlanks(std::string_view s) {
+  while (!s.empty() && s.front() == ' ') s.remove_prefix(1);
+  while (!s.empty() && s.back() == ' ') s.remove_suffix(1);
+  return s;
+}
+
+std::string RemoveChars(std::string_view s, std::string_view chars) {
+  std::string out;
+  out.reserve(s.size());
+  for (char c : s)
+    if (chars.find(c) == npos) out += c;
+  return out;
+}
+
+std::string ReplaceAll(std::string_view s, std::string_view from, std::string_view to) {
+  std::string out;
+  out.reserve(s.size());
+  std::size_t at = 0;
+  for (std::size_t hit; (hit = s.find(from, at)) != npos; at = hit + from.size())
+    out.append(s.substr(at, hit - at)).append(to);
+  out.append(s.substr(at));
+  return out;
+}
+
+}  // namespace
+
+bool IsBlankGap(std::string_view gap) {
+  bool wantLf = false;
+  for (char c : gap) {
+    if (c == ' ' || c == '\t') continue;
+    if (wantLf) {
+      if (c != '\n') return false;
+      wantLf = false;
+    } else if (c == '\r') {
+      wantLf = true;
+    } else {
+      return false;
+    }
+  }
+  return !wantLf;
+}
+
+std::string DocumentStyleSheet(std::string_view text, std::string_view caption) {
+  if (caption.find(".css") != npos) return std::string(text);
+  const std::string upper = UCase(text);
+  const std::size_t style = upper.find("<STYLE");
+  if (style == npos) return {};
+  const std::size_t open = upper.find('>', style);
+  const std::size_t close = upper.find("</STYLE", style);
+  if (open == npos || close == npos || close <= open) return {};
+  return std::string(text.substr(open + 1, close - open - 1));
+}
+
+std::string GetDocumentStyleSheet(Application& app) {
+  DocumentWindow* w = app.ActiveDocument();
+  if (!w) return {};
+  return DocumentStyleSheet(w->Edit().View(), w->Caption());
+}
+
+std::vector<StyleRule> ScanStyleRules(std::string_view sheet) {
+  std::vector<StyleRule> rules;
+  std::size_t previousEnd = 0;  // where the next selector begins
+  std::size_t start = 0;
+  while (start < sheet.size()) {
+    const std::size_t open = sheet.find('{', start);
+    if (open == npos) break;
+    const std::size_t close = sheet.find('}', open + 1);
+    if (close == npos) break;
+    StyleRule rule;
+    rule.selector = std::string(
+        TrimBlanks(RemoveChars(sheet.substr(previousEnd, open - previousEnd), "\n\t\r")));
+    rule.declarations = std::string(sheet.substr(open + 1, close - open - 1));
+    rules.push_back(std::move(rule));
+    previousEnd = close + 1;
+    // The character just behind the "}" is never looked at for the next "{".
+    start = close + 2;
+  }
+  return rules;
+}
+
+std::vector<std::string> LoadStyleRules(StyleState& state, std::string_view sheet) {
+  std::vector<std::string> selectors;
+  for (StyleRule& rule : ScanStyleRules(sheet)) {
+    FormatStyleDefinition(rule.declarations, kStyleOneLine);
+    ParseStyleDefinition(state, rule.selector, rule.declarations);
+    selectors.push_back(std::move(rule.selector));
+  }
+  return selectors;
+}
+
+std::string FindStyleDefinition(std::string_view selector, std::string_view sheet) {
+  const std::string upper = UCase(sheet);
+  const std::string wanted = UCase(selector);
+  std::size_t start = 0;
+  while (start < sheet.size()) {
+    const std::size_t match = upper.find(wanted, start);
+    if (match == npos) return {};
+    const std::size_t open = sheet.find('{', match);
+    if (open == npos) return {};
+    const std::size_t matchEnd = match + wanted.size();
+    if (open >= matchEnd && IsBlankGap(sheet.substr(matchEnd, open - matchEnd))) {
+      const std::size_t close = sheet.find('}', match);
+      if (close == npos || close < open) return {};
+      return RemoveChars(sheet.substr(open + 1, close - open - 1), "\t\r\n");
+    }
+    start = open + 1;
+  }
+  return {};
+}
+
+void SplitValueAndUnit(std::string_view value, std::string& unit, std::string& number) {
+  const std::string_view v = TrimBlanks(value);
+  auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+  const bool digitFirst = !v.empty() && isDigit(v.front());
+  std::size_t stop = npos;
+  for (std::size_t i = 0; i < v.size(); ++i)
+    if (isDigit(v[i]) != digitFirst) {
+      stop = i;
+      break;
+    }
+  if (stop == npos) {
+    number = digitFirst ? std::string(v) : std::string();
+    unit = digitFirst ? std::string() : std::string(v);
+  } else if (digitFirst) {
+    number = std::string(TrimBlanks(v.substr(0, stop)));
+    unit = std::string(TrimBlanks(v.substr(stop)));
+  } else {
+    // The unit takes the first digit as well, and the number loses the value's last
+    // character: ".5em" gives ".5" and "5e". Pages were written against this.
+    unit = std::string(TrimBlanks(v.substr(0, stop + 1)));
+    number = std::string(v.substr(stop, v.size() - stop - 1));
+  }
+}
+
+void ParseStyleDefinition(StyleState& state, const std::string& selector,
+                          const std::string& declarations) {
+  CSSstyle fresh;
+  fresh.StyleName = selector;
+  fresh.Definition = declarations;
+  if (auto added = state.Styles.Add(std::move(fresh), selector))
+    state.CurrentStyle = std::move(added);
+  else
+    state.CurrentStyle = std::make_shared<CSSstyle>();  // filled, then lost with the dialog
+  CSSstyle& s = *state.CurrentStyle;
+
+  std::string_view rest = declarations;
+  while (true) {
+    const std::size_t semicolon = rest.find(';');
+    const std::string_view piece = TrimBlanks(rest.substr(0, semicolon));
+    const std::size_t colon = piece.find(':');
+    if (colon != npos) {
+      const std::string_view name = TrimBlanks(piece.substr(0, colon));
+      const std::string_view value = TrimBlanks(piece.substr(colon + 1));
+      // Property names are short: fold them without a heap string.
+      char folded[24];
+      std::string_view key;
+      if (name.size() <= sizeof folded) {
+        for (std::size_t i = 0; i < name.size(); ++i)
+          folded[i] =
+              (name[i] >= 'A' && name[i] <= 'Z') ? static_cast<char>(name[i] + 32) : name[i];
+        key = std::string_view(folded, name.size());
+      }
+      auto measure = [&value](std::string& number, std::string& unit) {
+        SplitValueAndUnit(value, unit, number);
+      };
+      if (key == "font-size") {
+        measure(s.FontSize, s.FontSizeUnit);
+      } else if (key == "font-weight") {
+        std::string number;
+        SplitValueAndUnit(value, s.FontWeight, number);  // "bold" stays, 700 is lost
+      } else if (key == "font-family") {
+        s.FontFamily = value;
+      } else if (key == "font-style") {
+        s.FontStyle = value;
+      } else if (key == "font-variant") {
+        s.FontVariant = value;
+      } else if (key == "color") {
+        s.Color = value;
+      } else if (key == "text-decoration") {
+        s.TextDecoration = value;
+      } else if (key == "text-transform") {
+        s.TextTransform = value;
+      } else if (key == "text-indent") {
+        measure(s.TextIndent, s.TextIndentUnit);
+      } else if (key == "letter-spacing") {
+        measure(s.LetterSpacing, s.LetterSpacingUnit);
+      } else if (key == "line-height") {
+        measure(s.LineHeight, s.LineHeightUnit);
+      } else if (key == "text-align") {
+        s.TextAlign = value;
+      } else if (key == "vertical-align") {
+        s.VerticalAlign = value;
+      } else if (key == "background") {
+        s.BackgroundImage = value;
+      } else if (key == "background-color") {
+        s.BackgroundColor = value;
+      } else if (key == "width") {
+        measure(s.StyleWidth, s.StyleWidthUnit);
+      } else if (key == "height") {
+        measure(s.StyleHeight, s.StyleHeightUnit);
+      } else if (key == "left") {
+        measure(s.StyleLeft, s.StyleLeftUnit);
+      } else if (key == "top") {
+        measure(s.StyleTop, s.StyleTopUnit);
+      } else if (key == "position") {
+        s.Position = value;
+      } else if (key == "visibility") {
+        s.Visibility = value;
+      } else if (key == "z-index") {
+        s.ZIndex = value;
+      } else if (!name.empty() && !value.empty()) {
+        s.ExtraAttributes.append(name).append(":").append(value).append(";\r\n");
+      }
+    }
+    if (semicolon == npos) break;
+    rest.remove_prefix(semicolon + 1);
+  }
+}
+
+void FormatStyleDefinition(std::string& declarations, int mode) {
+  std::string d = ReplaceAll(RemoveChars(declarations, "\r\n\t"), "; ", ";");
+  if (mode == kStyleForDisplay) {
+    d = "\r\n" + ReplaceAll("    " + d, ";", ";\r\n    ");
+  } else if (mode == kStyleForDocument) {
+    d = ReplaceAll("\t" + d, ";", ";\r\n\t");
+    // Drops the last line break and tab; too short a text is left as it is.
+    if (d.size() >= 3) d.resize(d.size() - 3);
+  }
+  declarations = std::move(d);
+}
+
+namespace {
+
+// Where the rule of an upper-cased selector starts in the upper-cased text, and its "{":
+// the first match that has only white space up to the next "{". A later match before that
+// "{" is never looked at: the search goes on from the "{".
+bool FindRule(std::string_view upper, std::string_view selector, std::size_t& match,
+              std::size_t& open) {
+  std::size_t start = 0;
+  while (start < upper.size()) {
+    match = upper.find(selector, start);
+    if (match == npos) return false;
+    open = upper.find('{', match);
+    if (open == npos) return false;
+    const std::size_t matchEnd = match + selector.size();
+    if (open >= matchEnd && IsBlankGap(upper.substr(matchEnd, open - matchEnd))) return true;
+    start = std::max(open, match + 1);
+  }
+  return false;
+}
+
+}  // namespace
+
+std::vector<TextEdit> StyleWriteEdits(std::string_view text, std::string_view selector,
+                                      std::string_view declarations, bool embedded, bool remove) {
+  std::vector<TextEdit> edits;
+  std::string upper = UCase(text);
+  std::string changed;
+  if (embedded && upper.find("<STYLE") == npos) {
+    TextEdit block;
+    const std::size_t head = upper.find("</HEAD>");
+    if (head != npos && head > 0) {
+      block = {static_cast<std::int64_t>(head), 0,
+               "\r\n<STYLE type=\"text/css\">\r\n\r\n</STYLE>\r\n\r\n"};
+    } else {
+      // Seven past the tag's 1-based position, counted as a 0-based offset: one character
+      // beyond the tag, as pages made with it have it.
+      const std::size_t html = upper.find("<HTML>");
+      const std::size_t at = (html == npos ? 0 : html + 1) + 6;
+      block = {static_cast<std::int64_t>(std::min(at, text.size())), 0,
+               "\r\n<HEAD>\r\n<STYLE type='text/css'>\r\n\r\n</STYLE>\r\n\r\n</HEAD>"};
+    }
+    changed = std::string(text);
+    ApplyTextEdits(changed, {block});
+    edits.push_back(std::move(block));
+    text = changed;
+    upper = UCase(text);
+  }
+
+  std::size_t insertAt = upper.size();
+  if (embedded) {
+    const std::size_t style = upper.find("<STYLE");
+    const std::size_t gt = style == npos ? npos : upper.find('>', style);
+    insertAt = gt == npos ? 0 : gt + 1;
+  }
+
+  const std::string wanted = UCase(selector);
+  std::size_t match = 0, open = 0;
+  if (FindRule(upper, wanted, match, open)) {
+    const std::size_t close = upper.find('}', match);
+    if (remove) {
+      if (close != npos)
+        edits.push_back(
+            {static_cast<std::int64_t>(match), static_cast<std::int64_t>(close - match + 1), ""});
+    } else {
+      // A "}" missing, or standing before the "{", leaves nothing selected: the new body
+      // goes in before the old one.
+      const std::size_t length = (close == npos || close < open) ? 0 : close - open + 1;
+      edits.push_back({static_cast<std::int64_t>(open), static_cast<std::int64_t>(length),
+                       "{\r\n" + std::string(declarations) + "\r\n}"});
+    }
+  } else {
+    // Also for a removal: removing a rule that is not there writes it.
+    edits.push_back(
+        {static_cast<std::int64_t>(insertAt), 0,
+         "\r\n" + std::string(selector) + "\r\n{\r\n" + std::string(declarations) + "\r\n}\r\n"});
+  }
+  return edits;
+}
+
+void ApplyTextEdits(std::string& text, const std::vector<TextEdit>& edits) {
+  for (const TextEdit& e : edits) {
+    const auto start = std::min<std::size_t>(static_cast<std::size_t>(e.start), text.size());
+    text.replace(start, static_cast<std::size_t>(e.length), e.text);
+  }
+}
+
+void WriteStyleDefinition(Application& app, const std::string& selector,
+                          const std::string& declarations, bool embedded, bool remove) {
+  EditControl* edit = app.ActiveEdit();
+  if (!edit) return;
+  for (const TextEdit& e :
+       StyleWriteEdits(edit->View(), selector, declarations, embedded, remove)) {
+    edit->Select(e.start, e.length);
+    edit->ReplaceSel(e.text);
+  }
+}
+
+}  // namespace tessarine
