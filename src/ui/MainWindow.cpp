@@ -39,6 +39,7 @@
 #include "ui/DocumentForm.h"
 #include "ui/KeyStatePanels.h"
 #include "ui/SciEdit.h"
+#include "ui/panels/FileListPanel.h"
 
 namespace tessarine {
 
@@ -614,6 +615,9 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   if (sideIndex >= 0 && sideIndex < sizes.size())
     g.fileListWidth = std::to_string(static_cast<long long>(sizes[sideIndex]) * kTwipsPerPixel);
   g.file1Top = app_->store.GetSetting("Window", "File1Top", "");
+  auto* list = tabStrip1_->findChild<FileListPanel*>("fileListPanel");
+  if (list && list->SplitTop() >= 0)
+    g.file1Top = std::to_string(static_cast<long long>(list->SplitTop()) * kTwipsPerPixel);
   g.sideBarTab = std::to_string(tabStrip1_->currentIndex() + 1);
   g.shortcutBarGroup = shortcutBarGroup_;
   if (!CloseAllForExit(*app_)) {

@@ -1,17 +1,23 @@
 // The site manager, global replace, projects and the file list.
 
 #include <QAction>
+#include <QActionGroup>
 #include <QMenu>
+#include <QPointer>
 #include <QTabWidget>
 
 #include "core/Application.h"
+#include "core/Startup.h"
+#include "panels/FileListFilters.h"
 #include "platform/DocumentWindow.h"
 #include "platform/MessageBoxes.h"
 #include "platform/SettingsStore.h"
+#include "settings/Settings.h"
 #include "sitetools/LinkCheck.h"
 #include "sitetools/Projects.h"
 #include "ui/Commands.h"
 #include "ui/MainWindow.h"
+#include "ui/panels/DriveList.h"
 #include "ui/panels/FileListPanel.h"
 #include "ui/sitetools/GlobalReplaceDialog.h"
 #include "ui/sitetools/ProjectManagerDialog.h"
@@ -99,9 +105,43 @@ void BuildProjectMenu(MainWindow& frame) {
   });
 }
 
+FileListPanel* FileListOf(MainWindow& frame) {
+  return frame.SidePanel() ? frame.SidePanel()->findChild<FileListPanel*>("fileListPanel")
+                           : nullptr;
+}
+
+// What the file list shows: the four entries of View, which store their word.
+void BuildFileListFilters(MainWindow& frame) {
+  MainWindow* f = &frame;
+  QMenu* view = frame.Menu("mnuView");
+  auto* shown = new QMenu("Files &Shown in File List", view);
+  shown->setObjectName("mnuFileListView");
+  view->insertMenu(frame.Command("mnuPreferences"), shown);
+  auto* group = new QActionGroup(shown);
+  for (const FileListFilter& filter : kFileListFilters) {
+    QAction* a = frame.AddCommand(shown, filter.command, filter.caption, false,
+                                  [f, word = std::string(filter.word)] {
+                                    if (!f->App()) return;
+                                    f->App()->store.SaveSetting("Miscellaneous", "FileList", word);
+                                    if (FileListPanel* panel = FileListOf(*f))
+                                      panel->SetFilterWord(word);
+                                  });
+    a->setCheckable(true);
+    group->addAction(a);
+  }
+  frame.OnSettingsLoaded([f] {
+    const std::string word =
+        FileListWord(f->App()->store.GetSetting("Miscellaneous", "FileList", "both"));
+    for (const FileListFilter& filter : kFileListFilters) {
+      if (word == filter.word) f->Command(filter.command)->setChecked(true);
+    }
+  });
+}
+
 // The file list takes the first tab of the side panel.
 void BuildFileList(MainWindow& frame) {
   MainWindow* f = &frame;
+  BuildFileListFilters(frame);
   frame.OnSettingsLoaded([f] {
     Application& app = *f->App();
     QTabWidget* side = f->SidePanel();
@@ -114,7 +154,16 @@ void BuildFileList(MainWindow& frame) {
     side->insertTab(0, panel, " File List");
     side->setCurrentIndex(0);
     panel->SetFilterWord(app.store.GetSetting("Miscellaneous", "FileList", "both"));
-    panel->SetFolder(Q(app.settings.WorkingDirectory));
+    // A working folder that has gone since the last run: the nearest one left, quietly.
+    panel->SetFolder(Q(app.settings.WorkingDirectory), false);
+    const std::string top = app.store.GetSetting("Window", "File1Top", "");
+    if (!top.empty()) panel->SetSplitTop(static_cast<int>(Val(top)) / kTwipsPerPixel);
+    panel->Popup()->addSeparator();
+    panel->Popup()->addMenu(f->Menu("mnuView")->findChild<QMenu*>("mnuFileListView"));
+    QAction* hide = panel->Popup()->addAction("&Hide File List");
+    hide->setObjectName("mnuFileList");
+    QObject::connect(hide, &QAction::triggered, f,
+                     [f] { f->Command("mnuViewFileList")->trigger(); });
     panel->verifyFile = [f](const std::string& folder, const std::string& name) {
       VerifySelectedFileCommand(*f, folder, name);
     };

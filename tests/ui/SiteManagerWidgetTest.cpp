@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSplitter>
 #include <QTimer>
 #include <QTreeWidget>
 #include <filesystem>
@@ -12,6 +13,7 @@
 #include "WindowFixture.h"
 #include "sitetools/GlobalReplace.h"
 #include "ui/SciEdit.h"
+#include "ui/panels/DriveList.h"
 #include "ui/sitetools/FolderFileLists.h"
 #include "ui/sitetools/GlobalReplaceDialog.h"
 #include "ui/sitetools/QuickViewDialog.h"
@@ -133,6 +135,61 @@ TEST_F(SiteManagerTest, GlobalReplaceRewritesTheSelectedFilesAndListsThem) {
                                       {QString::fromStdString(Site() + "b.htm"), " 1"}}));
   EXPECT_EQ(dialog.findChild<QPushButton*>("cancelButton")->text(), "&Done");
   EXPECT_EQ(app->sites.LastFindText, "table");
+}
+
+TEST_F(SiteManagerTest, TheWindowKeepsItsGeometryInItsOwnSection) {
+  Write("index.html", "<TITLE>Home</TITLE>");
+  store.SaveSetting("SiteTolmer", "WindowXSize", "12000");   // 800 pixels
+  store.SaveSetting("SiteTolmer", "WindowYSize", "9000");    // 600 pixels
+  store.SaveSetting("SiteTolmer", "File1Top", "3000");       // 200 pixels
+  store.SaveSetting("SiteTolmer", "FileListWidth", "4500");  // 300 pixels
+  Start();
+  {
+    SiteManagerWindow window(*app, frame.get());
+    window.show();
+    for (int i = 0; i < 5; ++i) QApplication::processEvents();
+    EXPECT_EQ(window.size(), QSize(800, 600));
+    EXPECT_EQ(window.Files()->SplitTop(), 200);
+    auto* columns = window.findChild<QSplitter*>("columnSplitter");
+    ASSERT_NE(columns, nullptr);
+    EXPECT_EQ(columns->sizes().value(0), 300);
+
+    window.resize(840, 630);
+    columns->setSizes({330, 500});
+    window.Files()->SetSplitTop(180);
+    QApplication::processEvents();
+    window.close();
+  }
+  EXPECT_EQ(store.GetSetting("SiteTolmer", "WindowXSize", "?"), "12600");
+  EXPECT_EQ(store.GetSetting("SiteTolmer", "WindowYSize", "?"), "9450");
+  EXPECT_EQ(store.GetSetting("SiteTolmer", "File1Top", "?"), "2700");
+  EXPECT_EQ(store.GetSetting("SiteTolmer", "FileListWidth", "?"), "4950");
+  EXPECT_EQ(store.GetSetting("Window", "File1Top", "?"), "?") << "the main window's keys stay";
+
+  // Closed while minimised: nothing is written.
+  SiteManagerWindow again(*app, frame.get());
+  again.show();
+  QApplication::processEvents();
+  again.setWindowState(Qt::WindowMinimized);
+  again.resize(500, 400);
+  again.close();
+  EXPECT_EQ(store.GetSetting("SiteTolmer", "WindowXSize", "?"), "12600");
+}
+
+TEST_F(SiteManagerTest, ADriveThatCannotBeReadIsRefusedAndTheListGoesBack) {
+  Write("index.html", "<TITLE>Home</TITLE>");
+  Start();
+  SiteManagerWindow window(*app, frame.get());
+  window.Files()->SetFolder(QString::fromStdString(Site()));
+  DriveList* drives = window.Files()->Drives();
+  drives->SetDrives({"/", QString::fromStdString(Site() + "gone")});
+  messages.Clear();
+  drives->setCurrentIndex(1);
+  ASSERT_EQ(messages.shown().size(), 1u);
+  EXPECT_EQ(messages.shown()[0].text, "Drive not ready.");
+  EXPECT_EQ(drives->currentText(), "/");
+  EXPECT_EQ(window.Files()->Folder().toStdString() + "/", Site());
+  EXPECT_EQ(window.Files()->Names(), QStringList{"index.html"});
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "ui/panels/FileListPanel.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QDialog>
@@ -10,13 +12,14 @@
 #include <QLabel>
 #include <QListView>
 #include <QMenu>
-#include <QPixmap>
+#include <QMessageBox>
+#include <QMimeData>
 #include <QPointer>
-#include <QScrollArea>
 #include <QSplitter>
 #include <QStringListModel>
 #include <QThread>
 #include <QTreeView>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include "conventions/SaveWarning.h"
@@ -26,11 +29,16 @@
 #include "core/Preview.h"
 #include "core/Startup.h"
 #include "core/TextServices.h"
+#include "panels/FileListFilters.h"
 #include "panels/FileOperations.h"
+#include "panels/FolderAccess.h"
 #include "platform/Desktop.h"
 #include "platform/DocumentWindow.h"
 #include "platform/MessageBoxes.h"
 #include "platform/SettingsStore.h"
+#include "settings/Settings.h"
+#include "ui/panels/DriveList.h"
+#include "ui/panels/PictureViewerDialog.h"
 #include "ui/sitetools/FolderChoiceDialog.h"
 
 namespace tessarine {
@@ -44,14 +52,51 @@ std::string S(const QString& s) {
   return s.toUtf8().toStdString();
 }
 
+QString JoinName(const QString& folder, const QString& name) {
+  return folder + (folder.endsWith('/') ? "" : "/") + name;
+}
+
 }  // namespace
+
+// The names of one folder. A dragged name carries its file, so that a document it is
+// dropped on can link to it; names are not edited in place.
+class FileNamesModel : public QStringListModel {
+ public:
+  using QStringListModel::QStringListModel;
+  void SetNames(const QString& folder, const QStringList& names) {
+    folder_ = folder;
+    setStringList(names);
+  }
+  Qt::ItemFlags flags(const QModelIndex& index) const override {
+    if (!index.isValid()) return Qt::NoItemFlags;
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled;
+  }
+  QStringList mimeTypes() const override { return {"text/uri-list"}; }
+  QMimeData* mimeData(const QModelIndexList& indexes) const override {
+    QList<QUrl> urls;
+    for (const QModelIndex& index : indexes) {
+      if (index.isValid()) urls << QUrl::fromLocalFile(JoinName(folder_, index.data().toString()));
+    }
+    if (urls.isEmpty()) return nullptr;
+    auto* data = new QMimeData;
+    data->setUrls(urls);
+    return data;
+  }
+  // A copy only: a move would take the name out of the list.
+  Qt::DropActions supportedDragActions() const override { return Qt::CopyAction; }
+
+ private:
+  QString folder_;
+};
 
 FileListPanel::FileListPanel(Application& app, QWidget* parent)
     : QWidget(parent),
       app_(app),
       folders_(new QFileSystemModel(this)),
-      files_(new QStringListModel(this)),
+      files_(new FileNamesModel(this)),
+      drives_(new DriveList),
       folderTree_(new QTreeView),
+      splitter_(new QSplitter(Qt::Vertical)),
       fileList_(new QListView),
       popup_(new QMenu(this)) {
   setObjectName("fileListPanel");
@@ -70,22 +115,52 @@ FileListPanel::FileListPanel(Application& app, QWidget* parent)
   fileList_->setLayoutMode(QListView::Batched);
   fileList_->setBatchSize(2000);
   fileList_->setContextMenuPolicy(Qt::CustomContextMenu);
+  // A double click opens; it never edits the name.
+  fileList_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  fileList_->setDragEnabled(true);
+  fileList_->setDragDropMode(QAbstractItemView::DragOnly);
+  fileList_->setDefaultDropAction(Qt::CopyAction);
 
-  auto* splitter = new QSplitter(Qt::Vertical);
-  splitter->addWidget(folderTree_);
-  splitter->addWidget(fileList_);
+  auto* driveAndFolders = new QWidget;
+  auto* column = new QVBoxLayout(driveAndFolders);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(drives_);
+  column->addWidget(folderTree_, 1);
+  splitter_->setObjectName("fileListSplitter");
+  splitter_->addWidget(driveAndFolders);
+  splitter_->addWidget(fileList_);
+  splitter_->setChildrenCollapsible(false);
+  // A taller panel gives its room to the files: the split stays where it was put.
+  splitter_->setStretchFactor(0, 0);
+  splitter_->setStretchFactor(1, 1);
+  splitter_->installEventFilter(this);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(splitter);
+  layout->addWidget(splitter_);
   BuildPopup();
 
   connect(folderTree_->selectionModel(), &QItemSelectionModel::currentChanged, this,
           [this](const QModelIndex& index) {
             const QString path = folders_->filePath(index);
-            if (!path.isEmpty() && path != folder_) SetFolder(path);
+            if (!path.isEmpty() && path != folder_) FolderPicked(path);
           });
+  drives_->onError = [this](const std::string& message) { ShowError(message); };
+  connect(drives_, &DriveList::DriveChosen, this, [this](const QString& root) {
+    ShowDrive(root);
+    FolderPicked(root);
+  });
+  // The tree learns its folders in the background: the current one is shown once its
+  // parents are known.
+  connect(folders_, &QFileSystemModel::directoryLoaded, this, [this](const QString& loaded) {
+    if (!folder_.startsWith(loaded)) return;
+    const QModelIndex index = folders_->index(folder_);
+    if (!index.isValid()) return;
+    QSignalBlocker block(folderTree_->selectionModel());
+    folderTree_->setCurrentIndex(index);
+    folderTree_->scrollTo(index);
+  });
   auto pathAt = [this](const QModelIndex& index) {
-    return folder_ + (folder_.endsWith('/') ? "" : "/") + index.data().toString();
+    return JoinName(folder_, index.data().toString());
   };
   connect(fileList_, &QListView::activated, this,
           [this, pathAt](const QModelIndex& index) { Activate(pathAt(index)); });
@@ -96,10 +171,44 @@ FileListPanel::FileListPanel(Application& app, QWidget* parent)
           [this](const QPoint& at) { popup_->popup(fileList_->viewport()->mapToGlobal(at)); });
 }
 
-void FileListPanel::SetFolder(const QString& folder) {
-  folder_ = folder;
+void FileListPanel::ShowError(const std::string& message) {
+  app_.messages.Show(message, MsgButtons::OK, MsgIcon::Exclamation, app_.title);
+}
+
+void FileListPanel::ShowDrive(const QString& root) {
+  folderTree_->setRootIndex(root == "/" ? QModelIndex() : folders_->index(root));
+}
+
+// The folder tree's change: the files follow, with the filter read again, and the folder
+// becomes the one the next file dialog starts in. A folder that cannot be read is refused
+// and the tree goes back.
+void FileListPanel::FolderPicked(const QString& path) {
+  if (const int error = FolderReadError(S(path)); error != 0) {
+    {
+      QSignalBlocker block(folderTree_->selectionModel());
+      folderTree_->setCurrentIndex(folders_->index(folder_));
+    }
+    ShowError(FolderErrorMessage(S(path), error));
+    return;
+  }
+  filterWord_ = FileListWord(app_.store.GetSetting("Miscellaneous", "FileList", "both"));
+  patterns_.clear();
+  for (const std::string& p : NamePatterns(FileListPattern(filterWord_))) patterns_ << Q(p);
+  SetFolder(path, false);
+  app_.files.SaveDirectory = S(folder_);
+}
+
+void FileListPanel::SetFolder(const QString& folder, bool report) {
+  QString path = folder;
+  if (const int error = FolderReadError(S(path)); error != 0) {
+    if (report) ShowError(FolderErrorMessage(S(path), error));
+    path = Q(NearestReadableFolder(S(path)));
+  }
+  folder_ = path;
+  drives_->ShowDriveOf(path);
+  ShowDrive(drives_->Drive());
   Refresh();
-  const QModelIndex index = folders_->index(folder);
+  const QModelIndex index = folders_->index(path);
   if (index.isValid()) {
     QSignalBlocker block(folderTree_->selectionModel());
     folderTree_->setCurrentIndex(index);
@@ -108,11 +217,58 @@ void FileListPanel::SetFolder(const QString& folder) {
 }
 
 void FileListPanel::SetFilterWord(const std::string& word) {
-  patterns_ = Q(FileListPattern(word)).split(';', Qt::SkipEmptyParts);
+  filterWord_ = FileListWord(word);
+  patterns_.clear();
+  for (const std::string& p : NamePatterns(FileListPattern(filterWord_))) patterns_ << Q(p);
   Refresh();
 }
 
+int FileListPanel::SplitTop() const {
+  if (splitter_->height() <= 0 || !splitter_->isVisible()) return pendingSplitTop_;
+  return fileList_->mapTo(this, QPoint(0, 0)).y();
+}
+
+void FileListPanel::SetSplitTop(int pixels) {
+  if (pixels < 0) return;
+  const int total = splitter_->height();
+  if (total <= 0 || !splitter_->isVisible()) {
+    pendingSplitTop_ = pixels;
+    return;
+  }
+  pendingSplitTop_ = -1;
+  const int top = std::clamp(pixels - splitter_->handleWidth(), 0, total);
+  splitter_->setSizes({top, std::max(0, total - splitter_->handleWidth() - top)});
+}
+
+bool FileListPanel::eventFilter(QObject* watched, QEvent* event) {
+  // The stored split waits for the panel's first real size.
+  if (watched == splitter_ && pendingSplitTop_ >= 0 &&
+      (event->type() == QEvent::Resize || event->type() == QEvent::Show)) {
+    const int pending = pendingSplitTop_;
+    QMetaObject::invokeMethod(
+        this,
+        [this, pending] {
+          if (pendingSplitTop_ == pending) SetSplitTop(pending);
+        },
+        Qt::QueuedConnection);
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
 void FileListPanel::Refresh() {
+  // A folder that has gone since it was shown: say so and show the nearest one left.
+  if (folder_.isEmpty()) return;
+  if (const int error = FolderReadError(S(folder_)); error != 0) {
+    ShowError(FolderErrorMessage(S(folder_), error));
+    const QString nearer = Q(NearestReadableFolder(S(folder_)));
+    if (nearer != folder_) {
+      SetFolder(nearer, false);
+    } else {
+      ++*generation_;
+      files_->SetNames(folder_, {});
+    }
+    return;
+  }
   // A later read wins: an earlier one that ends after it is dropped.
   const int generation = ++*generation_;
   const QString folder = folder_;
@@ -125,9 +281,9 @@ void FileListPanel::Refresh() {
     if (*current != generation) return;
     QMetaObject::invokeMethod(
         qApp,
-        [self, current, generation, names = std::move(names)] {
+        [self, current, generation, folder, names = std::move(names)] {
           if (!self || *current != generation) return;
-          self->files_->setStringList(names);
+          self->files_->SetNames(folder, names);
         },
         Qt::QueuedConnection);
   });
@@ -142,7 +298,7 @@ int FileListPanel::FileCount() const {
 QString FileListPanel::SelectedPath() const {
   const QModelIndex index = fileList_->currentIndex();
   if (!index.isValid() || !fileList_->selectionModel()->isSelected(index)) return {};
-  return folder_ + (folder_.endsWith('/') ? "" : "/") + index.data().toString();
+  return JoinName(folder_, index.data().toString());
 }
 
 bool FileListPanel::SelectName(const QString& name) {
@@ -177,14 +333,14 @@ void FileListPanel::BuildPopup() {
   add("mnuFileDelete", "&Delete", [this] { DeleteSelected(); });
   add("mnuRightFileMenu2NewFolder", "&New Folder...", [this] { NewFolder(); });
   popup_->addSeparator();
-  add("mnuRightFileProps", "P&roperties", [this] {
+  add("mnuRightFileProps", "Proper&ties", [this] {
     if (const QString path = SelectedPath(); !path.isEmpty()) ShowFileProperties(app_, S(path));
   });
 }
 
 void FileListPanel::Clicked(const QString& path) {
   if (!IsViewerPictureName(S(path))) return;
-  if (app_.store.GetSetting("Miscellaneous", "PicViewerFirstTime", "1") != "1") return;
+  if (Val(app_.store.GetSetting("Miscellaneous", "PicViewerFirstTime", "1")) != 1) return;
   app_.messages.Show(kPictureViewerHint, MsgButtons::OK, MsgIcon::Information, "Image Viewer");
   app_.store.SaveSetting("Miscellaneous", "PicViewerFirstTime", "0");
 }
@@ -228,6 +384,7 @@ void FileListPanel::RunOperation(int operation) {
     if (!ok) return;
   } else {
     FolderChoiceDialog chooser(texts.title, texts.prompt, folder_, this);
+    chooser.SetErrorHandler([this](const std::string& message) { ShowError(message); });
     if (chooser.exec() != QDialog::Accepted) return;
     folder = chooser.Folder();
   }
@@ -267,25 +424,7 @@ void FileListPanel::NewFolder() {
 void FileListPanel::ViewPicture() {
   const QString path = SelectedPath();
   if (path.isEmpty()) return;
-  QDialog viewer(this);
-  viewer.setObjectName("PictureViewer");
-  viewer.setWindowTitle(QFileInfo(path).fileName());
-  const QPixmap picture(path);
-  auto* image = new QLabel;
-  image->setObjectName("picture");
-  image->setPixmap(picture);
-  image->setAlignment(Qt::AlignCenter);
-  auto* scroll = new QScrollArea;
-  scroll->setWidget(image);
-  scroll->setAlignment(Qt::AlignCenter);
-  auto* size = new QLabel(QString("Width: %1 pixels         Height: %2 pixels")
-                              .arg(picture.width())
-                              .arg(picture.height()));
-  size->setObjectName("pictureSize");
-  auto* layout = new QVBoxLayout(&viewer);
-  layout->addWidget(scroll, 1);
-  layout->addWidget(size);
-  viewer.resize(std::min(picture.width() + 60, 900), std::min(picture.height() + 90, 700));
+  PictureViewerDialog viewer(app_, path, this);
   viewer.exec();
 }
 

@@ -15,6 +15,7 @@ FolderChoiceDialog::FolderChoiceDialog(const QString& title, const QString& prom
   setObjectName("FolderChoiceDialog");
   setWindowTitle(title);
   lists_->FileList()->hide();
+  lists_->ShowListCaptions();
   lists_->SetFolder(start);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   auto* layout = new QVBoxLayout(this);
@@ -24,6 +25,10 @@ FolderChoiceDialog::FolderChoiceDialog(const QString& title, const QString& prom
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   resize(400, 420);
+}
+
+void FolderChoiceDialog::SetErrorHandler(std::function<void(const std::string&)> show) {
+  lists_->SetErrorHandler(std::move(show));
 }
 
 QString FolderChoiceDialog::Folder() const {

@@ -2,6 +2,8 @@
 // A folder chooser: the folder tree alone, returning the folder picked.
 
 #include <QDialog>
+#include <functional>
+#include <string>
 
 namespace tessarine {
 
@@ -13,6 +15,9 @@ class FolderChoiceDialog : public QDialog {
   FolderChoiceDialog(const QString& title, const QString& prompt, const QString& start,
                      QWidget* parent = nullptr);
   QString Folder() const;
+  // Shows the refusal of a drive or folder that cannot be read.
+  void SetErrorHandler(std::function<void(const std::string& message)> show);
+  FolderFileLists* Lists() const { return lists_; }
 
  private:
   FolderFileLists* lists_;

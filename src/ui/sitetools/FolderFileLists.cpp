@@ -1,19 +1,27 @@
 #include "ui/sitetools/FolderFileLists.h"
 
+#include <algorithm>
+
 #include <QDir>
 #include <QFileSystemModel>
 #include <QHeaderView>
+#include <QLabel>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QTreeView>
 #include <QVBoxLayout>
+
+#include "panels/FolderAccess.h"
+#include "ui/panels/DriveList.h"
 
 namespace tessarine {
 
 FolderFileLists::FolderFileLists(Qt::Orientation orientation, QWidget* parent)
     : QWidget(parent),
       folders_(new QFileSystemModel(this)),
+      drives_(new DriveList),
       folderTree_(new QTreeView),
       fileList_(new QListWidget),
       splitter_(new QSplitter(orientation)) {
@@ -24,7 +32,13 @@ FolderFileLists::FolderFileLists(Qt::Orientation orientation, QWidget* parent)
   folderTree_->setHeaderHidden(true);
   for (int column = 1; column < folders_->columnCount(); ++column) folderTree_->hideColumn(column);
   fileList_->setObjectName("fileList");
-  splitter_->addWidget(folderTree_);
+  auto* driveAndFolders = new QWidget;
+  auto* column = new QVBoxLayout(driveAndFolders);
+  column->setObjectName("driveAndFolders");
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(drives_);
+  column->addWidget(folderTree_, 1);
+  splitter_->addWidget(driveAndFolders);
   splitter_->addWidget(fileList_);
   splitter_->setChildrenCollapsible(false);
   auto* layout = new QVBoxLayout(this);
@@ -35,10 +49,15 @@ FolderFileLists::FolderFileLists(Qt::Orientation orientation, QWidget* parent)
           [this](const QModelIndex& index) {
             const QString path = folders_->filePath(index);
             if (path.isEmpty() || path == folder_) return;
-            folder_ = path;
+            if (!ChooseFolder(path)) return;
             FillFiles();
             emit FolderChanged(folder_);
           });
+  drives_->onError = [this](const std::string& message) { ShowError(message); };
+  connect(drives_, &DriveList::DriveChosen, this, [this](const QString& root) {
+    ShowDrive(root);
+    SetFolder(root);
+  });
   connect(fileList_, &QListWidget::itemClicked, this,
           [this](QListWidgetItem* item) { emit FileClicked(item->text()); });
   connect(fileList_, &QListWidget::itemActivated, this,
@@ -50,10 +69,44 @@ void FolderFileLists::SetPattern(const QString& semicolonPatterns) {
   FillFiles();
 }
 
+// The tree shows one drive, as a drive list's folder list does.
+void FolderFileLists::ShowDrive(const QString& root) {
+  folderTree_->setRootIndex(root == "/" ? QModelIndex() : folders_->index(root));
+}
+
+void FolderFileLists::SetErrorHandler(std::function<void(const std::string&)> show) {
+  showError_ = std::move(show);
+}
+
+void FolderFileLists::ShowError(const std::string& message) {
+  if (showError_)
+    showError_(message);
+  else
+    QMessageBox::warning(this, window()->windowTitle(), QString::fromStdString(message));
+}
+
+// A folder picked in the tree: one that cannot be read is refused, and the tree goes back.
+bool FolderFileLists::ChooseFolder(const QString& path) {
+  const int error = FolderReadError(path.toStdString());
+  if (error == 0) {
+    folder_ = path;
+    return true;
+  }
+  {
+    QSignalBlocker block(folderTree_->selectionModel());
+    folderTree_->setCurrentIndex(folders_->index(folder_));
+  }
+  ShowError(FolderErrorMessage(path.toStdString(), error));
+  return false;
+}
+
 void FolderFileLists::SetFolder(const QString& folder) {
   QString path = QDir::cleanPath(folder);
-  if (path.isEmpty() || !QDir(path).exists()) path = QDir::homePath();
+  if (path.isEmpty()) path = QDir::homePath();
+  path = QString::fromStdString(NearestReadableFolder(path.toStdString()));
   folder_ = path;
+  drives_->ShowDriveOf(path);
+  ShowDrive(drives_->Drive());
   const QModelIndex index = folders_->index(path);
   {
     QSignalBlocker block(folderTree_->selectionModel());
@@ -63,6 +116,30 @@ void FolderFileLists::SetFolder(const QString& folder) {
   folderTree_->expand(index);
   FillFiles();
   emit FolderChanged(folder_);
+}
+
+void FolderFileLists::ShowListCaptions() {
+  auto* column = findChild<QVBoxLayout*>("driveAndFolders");
+  if (!column || column->count() != 2) return;
+  auto* drive = new QLabel("&Drive:");
+  drive->setBuddy(drives_);
+  auto* directory = new QLabel("Di&rectory:");
+  directory->setBuddy(folderTree_);
+  column->insertWidget(0, drive);
+  column->insertWidget(2, directory);
+}
+
+int FolderFileLists::SplitTop() const {
+  if (!splitter_->isVisible() || splitter_->height() <= 0) return -1;
+  if (splitter_->orientation() != Qt::Vertical) return -1;
+  return fileList_->mapTo(this, QPoint(0, 0)).y();
+}
+
+void FolderFileLists::SetSplitTop(int pixels) {
+  const int total = splitter_->height() - splitter_->handleWidth();
+  if (pixels < 0 || total <= 0 || splitter_->orientation() != Qt::Vertical) return;
+  const int top = std::clamp(pixels - splitter_->handleWidth(), 0, total);
+  splitter_->setSizes({top, total - top});
 }
 
 void FolderFileLists::SetMultiSelection(bool multi) {

@@ -5,6 +5,8 @@
 
 #include <QStringList>
 #include <QWidget>
+#include <functional>
+#include <string>
 
 class QFileSystemModel;
 class QListWidget;
@@ -14,12 +16,15 @@ class QTreeView;
 
 namespace tessarine {
 
+class DriveList;
+
 class FolderFileLists : public QWidget {
   Q_OBJECT
  public:
   explicit FolderFileLists(Qt::Orientation orientation, QWidget* parent = nullptr);
 
   void SetPattern(const QString& semicolonPatterns);
+  // A folder that cannot be read gives way to the nearest one above it that can.
   void SetFolder(const QString& folder);
   QString Folder() const { return folder_; }
   void SetMultiSelection(bool multi);
@@ -33,6 +38,16 @@ class FolderFileLists : public QWidget {
   QString PathOf(const QString& name) const;
   bool SelectName(const QString& name);
 
+  // Puts "Drive:" and "Directory:" over the two lists.
+  void ShowListCaptions();
+  // Where the file list begins, in pixels from the top; -1 while it has no size. Setting
+  // it moves the split between the folders and the files.
+  int SplitTop() const;
+  void SetSplitTop(int pixels);
+  // Shows the refusal of a drive or folder; unset, a message box of its own.
+  void SetErrorHandler(std::function<void(const std::string& message)> show);
+
+  DriveList* Drives() const { return drives_; }
   QTreeView* FolderTree() const { return folderTree_; }
   QListWidget* FileList() const { return fileList_; }
   QSplitter* Splitter() const { return splitter_; }
@@ -44,13 +59,18 @@ class FolderFileLists : public QWidget {
 
  private:
   void FillFiles();
+  void ShowDrive(const QString& root);
+  void ShowError(const std::string& message);
+  bool ChooseFolder(const QString& path);
 
   QFileSystemModel* folders_;
+  DriveList* drives_;
   QTreeView* folderTree_;
   QListWidget* fileList_;
   QSplitter* splitter_;
   QStringList patterns_;
   QString folder_;
+  std::function<void(const std::string&)> showError_;
 };
 
 }  // namespace tessarine

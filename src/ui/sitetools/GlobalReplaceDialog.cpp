@@ -68,6 +68,9 @@ GlobalReplaceDialog::GlobalReplaceDialog(Application& app, QWidget* parent)
   resultsNote_->setWordWrap(true);
 
   files_->SetMultiSelection(true);
+  files_->SetErrorHandler([this](const std::string& message) {
+    app_.messages.Show(message, MsgButtons::OK, MsgIcon::Exclamation, app_.title);
+  });
   files_->SetPattern(kPattern);
 
   auto* search = new QWidget;

@@ -78,6 +78,9 @@ ProjectManagerDialog::ProjectManagerDialog(Application& app, bool openMode, QWid
           &ProjectManagerDialog::ShowSlot);
   auto browse = [this](QLineEdit* edit) {
     FolderChoiceDialog chooser("Browse for folder...", "Choose a folder:", edit->text(), this);
+    chooser.SetErrorHandler([this](const std::string& message) {
+      app_.messages.Show(message, MsgButtons::OK, MsgIcon::Exclamation, app_.title);
+    });
     if (chooser.exec() == QDialog::Accepted) edit->setText(chooser.Folder());
   };
   connect(browseProject, &QPushButton::clicked, this, [this, browse] { browse(projectFolder_); });

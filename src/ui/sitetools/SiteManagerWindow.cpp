@@ -1,5 +1,7 @@
 #include "ui/sitetools/SiteManagerWindow.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -14,14 +16,17 @@
 #include <QPixmap>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QShowEvent>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTimer>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include "core/Application.h"
 #include "core/FileOpen.h"
 #include "core/Preview.h"
+#include "panels/StoredGeometry.h"
 #include "platform/Desktop.h"
 #include "platform/MessageBoxes.h"
 #include "platform/SettingsStore.h"
@@ -163,6 +168,7 @@ SiteManagerWindow::SiteManagerWindow(Application& app, QWidget* parent)
   rightLayout->addWidget(info);
 
   auto* splitter = new QSplitter(Qt::Horizontal);
+  columns_ = splitter;
   splitter->setObjectName("columnSplitter");
   splitter->addWidget(left);
   splitter->addWidget(right);
@@ -204,8 +210,43 @@ SiteManagerWindow::SiteManagerWindow(Application& app, QWidget* parent)
   connect(results_, &QWidget::customContextMenuRequested, this,
           [this](const QPoint& at) { functions_->popup(results_->viewport()->mapToGlobal(at)); });
 
+  files_->SetErrorHandler([this](const std::string& message) { ShowMessage(message); });
   files_->SetFolder(Q(app_.settings.WorkingDirectory));
   resize(900, 600);
+  const StoredGeometry g = ReadStoredGeometry(app_.store, kSiteManagerGeometry);
+  if (g.sized) resize(g.width, g.height);
+  if (g.left > 0 || g.top > 0) move(g.left, g.top);
+  storedFile1Top_ = g.file1Top;
+  storedFileListWidth_ = g.fileListWidth;
+}
+
+void SiteManagerWindow::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  // The splits wait until the window has its size.
+  if (storedFile1Top_ >= 0 || storedFileListWidth_ >= 0)
+    QTimer::singleShot(0, this, &SiteManagerWindow::ApplyStoredSplits);
+}
+
+void SiteManagerWindow::ApplyStoredSplits() {
+  if (storedFileListWidth_ >= 0) {
+    const int total = columns_->width() - columns_->handleWidth();
+    const int left = std::clamp(storedFileListWidth_, 0, std::max(0, total));
+    columns_->setSizes({left, std::max(0, total - left)});
+  }
+  if (storedFile1Top_ >= 0) files_->SetSplitTop(storedFile1Top_);
+  storedFile1Top_ = storedFileListWidth_ = -1;
+}
+
+void SiteManagerWindow::done(int result) {
+  StoredGeometry g;
+  g.left = pos().x();
+  g.top = pos().y();
+  g.width = width();
+  g.height = height();
+  g.file1Top = files_->SplitTop();
+  if (columns_->isVisible()) g.fileListWidth = columns_->sizes().value(0, -1);
+  WriteStoredGeometry(app_.store, kSiteManagerGeometry, g, isMinimized());
+  QDialog::done(result);
 }
 
 SiteManagerWindow::~SiteManagerWindow() = default;

@@ -14,6 +14,7 @@ class QLabel;
 class QMenu;
 class QProgressBar;
 class QPushButton;
+class QSplitter;
 class QStatusBar;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -71,6 +72,8 @@ class SiteManagerWindow : public QDialog, public SiteAnalyserView {
 
  protected:
   void reject() override;
+  void done(int result) override;
+  void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
@@ -81,6 +84,7 @@ class SiteManagerWindow : public QDialog, public SiteAnalyserView {
   void OpenInEditor(const QString& path);
   void OpenInGraphicsProgram(const QString& path);
   QString SelectedOrRowFile() const;
+  void ApplyStoredSplits();
   void ShowGlobalReplace();
 
   Application& app_;
@@ -95,6 +99,9 @@ class SiteManagerWindow : public QDialog, public SiteAnalyserView {
   QPushButton* cancelButton_;
   QCheckBox* standard_;
   QMenu* functions_;
+  QSplitter* columns_ = nullptr;
+  int storedFile1Top_ = -1;       // pixels, applied at the first show
+  int storedFileListWidth_ = -1;  // pixels
   std::string mode_;
   QString analysedPage_;  // the page of the last page analysis
   bool running_ = false;
