@@ -54,6 +54,16 @@ FolderFileLists::FolderFileLists(Qt::Orientation orientation, QWidget* parent)
             emit FolderChanged(folder_);
           });
   drives_->onError = [this](const std::string& message) { ShowError(message); };
+  // The tree learns its folders in the background: the current one is shown once its
+  // parents are known.
+  connect(folders_, &QFileSystemModel::directoryLoaded, this, [this](const QString& loaded) {
+    if (!folder_.startsWith(loaded)) return;
+    const QModelIndex index = folders_->index(folder_);
+    if (!index.isValid()) return;
+    QSignalBlocker block(folderTree_->selectionModel());
+    folderTree_->setCurrentIndex(index);
+    folderTree_->scrollTo(index);
+  });
   connect(drives_, &DriveList::DriveChosen, this, [this](const QString& root) {
     ShowDrive(root);
     SetFolder(root);
