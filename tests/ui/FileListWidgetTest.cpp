@@ -246,6 +246,10 @@ TEST_F(FileListTest, AFolderOrDriveThatCannotBeReadIsRefusedWithItsMessage) {
   std::filesystem::remove_all(Folder() + "/sub");
   messages.Clear();
   panel->Refresh();
+  for (int i = 0; i < 1000 && messages.shown().empty(); ++i) {
+    QApplication::processEvents();
+    QThread::msleep(5);
+  }
   ASSERT_EQ(messages.shown().size(), 1u);
   EXPECT_EQ(messages.shown()[0].text, "The folder " + Folder() + "/sub cannot be found.");
   EXPECT_EQ(panel->Folder().toStdString(), Folder());
@@ -298,6 +302,27 @@ TEST_F(FileListTest, ThePictureViewerShowsTheSizeAndKeepsItsGeometry) {
   PictureViewerDialog broken(*app, QString::fromStdString(Folder() + "/broken.gif"), frame.get());
   EXPECT_FALSE(broken.HasPicture());
   EXPECT_TRUE(broken.Picture()->text().contains("cannot be shown"));
+}
+
+TEST_F(FileListTest, ANewFolderWithoutANameIsAskedForAgain) {
+  Write("page.html", "x");
+  Start();
+  FileListPanel* panel = Panel();
+  panel->SetFolder(QString::fromStdString(Folder()));
+  auto answer = [](const char* name) {
+    return [name](QDialog* d) {
+      d->findChild<QLineEdit*>()->setText(name);
+      d->accept();
+    };
+  };
+  OnDialog([this, answer](QDialog* d) {
+    OnDialog(answer("made"));
+    answer("")(d);
+  });
+  panel->Popup()->findChild<QAction*>("mnuRightFileMenu2NewFolder")->trigger();
+  ASSERT_EQ(messages.shown().size(), 1u);
+  EXPECT_EQ(messages.shown()[0].text, "Please enter the name of the folder you wish to create.");
+  EXPECT_TRUE(std::filesystem::is_directory(Folder() + "/made"));
 }
 
 }  // namespace

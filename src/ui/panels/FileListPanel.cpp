@@ -256,19 +256,7 @@ bool FileListPanel::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FileListPanel::Refresh() {
-  // A folder that has gone since it was shown: say so and show the nearest one left.
   if (folder_.isEmpty()) return;
-  if (const int error = FolderReadError(S(folder_)); error != 0) {
-    ShowError(FolderErrorMessage(S(folder_), error));
-    const QString nearer = Q(NearestReadableFolder(S(folder_)));
-    if (nearer != folder_) {
-      SetFolder(nearer, false);
-    } else {
-      ++*generation_;
-      files_->SetNames(folder_, {});
-    }
-    return;
-  }
   // A later read wins: an earlier one that ends after it is dropped.
   const int generation = ++*generation_;
   const QString folder = folder_;
@@ -276,19 +264,36 @@ void FileListPanel::Refresh() {
   QPointer<FileListPanel> self(this);
   auto current = generation_;
   QThread* reader = QThread::create([self, current, generation, folder, patterns] {
-    QStringList names =
-        QDir(folder).entryList(patterns, QDir::Files | QDir::Hidden, QDir::Name | QDir::IgnoreCase);
+    const int error = FolderReadError(S(folder));
+    QStringList names;
+    if (error == 0) {
+      names = QDir(folder).entryList(patterns, QDir::Files | QDir::Hidden,
+                                     QDir::Name | QDir::IgnoreCase);
+    }
     if (*current != generation) return;
     QMetaObject::invokeMethod(
         qApp,
-        [self, current, generation, folder, names = std::move(names)] {
+        [self, current, generation, folder, error, names = std::move(names)] {
           if (!self || *current != generation) return;
+          if (error != 0) {
+            self->FolderGone(folder, error);
+            return;
+          }
           self->files_->SetNames(folder, names);
         },
         Qt::QueuedConnection);
   });
   connect(reader, &QThread::finished, reader, &QObject::deleteLater);
   reader->start();
+}
+
+// The folder went (or became unreadable) since it was shown: say so and show the nearest
+// one left.
+void FileListPanel::FolderGone(const QString& folder, int error) {
+  files_->SetNames(folder, {});
+  ShowError(FolderErrorMessage(S(folder), error));
+  const QString nearer = Q(NearestReadableFolder(S(folder)));
+  if (nearer != folder) SetFolder(nearer, false);
 }
 
 int FileListPanel::FileCount() const {
@@ -411,10 +416,16 @@ void FileListPanel::DeleteSelected() {
 }
 
 void FileListPanel::NewFolder() {
-  bool ok = false;
-  const QString name = QInputDialog::getText(this, "New Folder",
-                                             "Name of the new folder:", QLineEdit::Normal, "", &ok);
-  if (!ok) return;
+  QString name;
+  // An empty name asks again, after saying what is wanted.
+  for (;;) {
+    bool ok = false;
+    name = QInputDialog::getText(this, "New Folder", "Name of the new folder:", QLineEdit::Normal,
+                                 name, &ok);
+    if (!ok) return;
+    if (!name.isEmpty()) break;
+    app_.messages.Show(CreateFolder(S(folder_), ""), MsgButtons::OK, MsgIcon::None, app_.title);
+  }
   const std::string problem = CreateFolder(S(folder_), S(name));
   QModelIndex here = folders_->index(folder_);
   if (here.isValid()) folderTree_->expand(here);

@@ -65,6 +65,7 @@ class FileListPanel : public QWidget {
   void ViewPicture();
   void Clicked(const QString& path);
   void FolderPicked(const QString& path);
+  void FolderGone(const QString& folder, int error);
   void ShowDrive(const QString& root);
   void ShowError(const std::string& message);
   bool eventFilter(QObject* watched, QEvent* event) override;
