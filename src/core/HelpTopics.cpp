@@ -118,7 +118,11 @@ bool ShowHelpTopic(Application& app, std::string_view id) {
                       MsgIcon::Exclamation, "Tessarine Help");
     return false;
   }
-  return app.shell.OpenInDefaultViewer(path);
+  if (app.shell.OpenInDefaultViewer(path)) return true;
+  app.messages.Show(
+      "The help page " + path + " could not be opened: no program to show Web pages was found.",
+      MsgButtons::OK, MsgIcon::Exclamation, "Tessarine Help");
+  return false;
 }
 
 bool StartScreenWanted(const SettingsStore& store) {

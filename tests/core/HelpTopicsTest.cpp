@@ -6,9 +6,12 @@
 #include <filesystem>
 #include <set>
 #include <string>
+#include <vector>
 
+#include "core/Application.h"
 #include "core/HelpTopics.h"
-#include "core/TestApp.h"
+#include "platform/Desktop.h"
+#include "platform/HeadlessPlatform.h"
 #include "sitetools/RecordingSiteView.h"
 #include "sitetools/SiteAnalyser.h"
 
@@ -75,12 +78,51 @@ TEST(HelpTopics, EveryPageIsLinkedFromTheContentsAndNoLinkIsBroken) {
   fs::remove_all(site);
 }
 
-TEST(HelpTopics, ShowingATopicOpensItsPageOrTellsItIsMissing) {
-  testing::TestApp missing;  // its application folder has no help pages
+// Answers as told and opens nothing.
+class ViewerShell : public Shell {
+ public:
+  explicit ViewerShell(bool works) : works_(works) {}
+  bool OpenInDefaultViewer(const std::string& path) override {
+    opened.push_back(path);
+    return works_;
+  }
+  bool StartProgram(const std::string&, const std::vector<std::string>&) override { return false; }
+  void ShowProperties(const std::string&) override {}
+  std::vector<std::string> opened;
+
+ private:
+  bool works_;
+};
+
+struct HelpApp {
+  explicit HelpApp(bool viewerWorks, const std::string& folder = kShippedHelp.parent_path())
+      : shell(viewerWorks),
+        app({h.frame, h.messages, h.store, h.fileDialogs, h.colorDialog, shell, h.clipboard,
+             h.images, h.clock, h.checkedQuestions, &h.defaultBrowser},
+            folder) {}
+  HeadlessPlatform h;
+  ViewerShell shell;
+  Application app;
+};
+
+TEST(HelpTopics, ShowingATopicOpensItsPageOrTellsWhyNot) {
+  HelpApp works(true);
+  EXPECT_TRUE(ShowHelpTopic(works.app, "ValidateDialog"));
+  EXPECT_EQ(works.shell.opened,
+            std::vector<std::string>{(kShippedHelp / "validate.html").string()});
+  EXPECT_TRUE(works.h.messages.shown().empty());
+
+  HelpApp noViewer(false);
+  EXPECT_FALSE(ShowHelpTopic(noViewer.app, kHelpTutorial));
+  ASSERT_EQ(noViewer.h.messages.shown().size(), 1u);
+  EXPECT_NE(noViewer.h.messages.shown()[0].text.find("tutorial.html could not be opened"),
+            std::string::npos);
+
+  HelpApp missing(true, "/opt/tessarine");  // no help folder there
   EXPECT_FALSE(ShowHelpTopic(missing.app, "ValidateDialog"));
-  EXPECT_TRUE(missing.platform.shell.opened.empty());
-  ASSERT_EQ(missing.messages.shown().size(), 1u);
-  EXPECT_NE(missing.messages.shown()[0].text.find("/opt/tessarine/help/validate.html"),
+  EXPECT_TRUE(missing.shell.opened.empty());
+  ASSERT_EQ(missing.h.messages.shown().size(), 1u);
+  EXPECT_NE(missing.h.messages.shown()[0].text.find("/opt/tessarine/help/validate.html"),
             std::string::npos);
 }
 
