@@ -22,6 +22,7 @@ const std::vector<HelpTopic>& HelpTopics() {
       // Windows, by object name
       {"MainWindow", "index.html"},
       {"StartScreen", "index.html"},
+      {"PreferencesDialog", "preferences.html"},
       {"FindReplaceDialog", "howto.html"},
       {"Templates", "howto.html"},
       {"XmlDocumentDialog", "howto.html"},
