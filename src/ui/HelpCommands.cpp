@@ -27,6 +27,7 @@ class HelpKeyFilter : public QObject {
     const auto* key = static_cast<QKeyEvent*>(event);
     if (key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier) return false;
     if (!frame_.App()) return false;
+    if (key->isAutoRepeat()) return true;  // a held key opens the page once
     ShowHelp(*frame_.App(), HelpWindow(qobject_cast<QWidget*>(watched)));
     return true;
   }

@@ -93,6 +93,10 @@ TEST_F(HelpKeys, F1AndTheHelpButtonOpenThePageOfTheDialogInFront) {
   shell.opened.clear();
   PressF1(Active() ? static_cast<QWidget*>(Active()) : frame.get());
   EXPECT_EQ(shell.opened, std::vector<std::string>{Page("index.html")});
+  // Holding the key down opens nothing more.
+  QKeyEvent repeat(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier, QString(), true);
+  QApplication::sendEvent(frame.get(), &repeat);
+  EXPECT_EQ(shell.opened.size(), 1u);
 }
 
 TEST_F(HelpKeys, AWindowWithoutAPageSpeaksForItsOwner) {
