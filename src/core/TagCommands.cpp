@@ -4,6 +4,7 @@
 
 #include "conventions/TagConventions.h"
 #include "core/Application.h"
+#include "core/HelpTopics.h"
 #include "core/TextServices.h"
 #include "platform/Desktop.h"
 #include "platform/EditControl.h"
@@ -348,11 +349,11 @@ bool ShortcutKeyAvailable(const std::string& key) {
 }
 
 std::string HelpPagePath(const Application& app, int contextId) {
-  return app.programFolder + "/help/" + std::to_string(contextId) + ".html";
+  return HelpFilePath(app.programFolder, HelpTopicOfContext(contextId));
 }
 
 void ShowHelpContext(Application& app, int contextId) {
-  app.shell.OpenInDefaultViewer(HelpPagePath(app, contextId));
+  ShowHelpTopic(app, HelpTopicOfContext(contextId));
 }
 
 std::string ShortcutBarClick(Application& app, const std::string& key) {

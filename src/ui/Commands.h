@@ -19,6 +19,7 @@ void BuildSiteManagerCommands(MainWindow& frame);  // site manager, global repla
 void BuildSiteToolCommands(MainWindow& frame);     // log statistics, tidy, stripper, spelling
 void BuildSettingsCommands(MainWindow& frame);     // preferences, menu systems, help
 void BuildEditTagCommands(MainWindow& frame);      // page properties, Edit Tag
+void BuildHelpCommands(MainWindow& frame);         // Help menu, F1, the start screen
 // Last: icons, toolbar style, view choices, the window list, About.
 void BuildViewCommands(MainWindow& frame);
 

@@ -289,6 +289,7 @@ void MainWindow::BuildMenus() {
   BuildSiteToolCommands(*this);
   BuildSettingsCommands(*this);
   BuildEditTagCommands(*this);
+  BuildHelpCommands(*this);
   BuildViewCommands(*this);
 }
 

@@ -71,6 +71,7 @@ class MainWindow : public QMainWindow, public Frame {
   void RegisterDialog(const QString& name, std::function<void(const std::string&)> show);
   bool ShowDialog(const std::string& name);
   bool HasDialog(const QString& name) const { return dialogs_.contains(name); }
+  QStringList DialogNames() const { return dialogs_.keys(); }
   // Gives a toolbar button its command and enables it (while a document is open, unless
   // it is New or Open).
   void BindButton(const QString& toolbar, const QString& key, std::function<void()> slot);

@@ -34,6 +34,8 @@ class WindowFixture : public ::testing::Test {
   void SetUp() override {
     ASSERT_TRUE(dir.isValid());
     qputenv("XDG_DATA_HOME", (dir.path() + "/data").toUtf8());
+    // The start screen would wait for an answer; its own tests turn it on.
+    store.SaveSetting("Miscellaneous", "MainMenuBox", "off");
   }
   void Start(const std::string& commandLine = "") {
     frame = std::make_unique<MainWindow>();
