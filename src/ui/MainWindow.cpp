@@ -39,6 +39,7 @@
 #include "ui/DocumentForm.h"
 #include "ui/KeyStatePanels.h"
 #include "ui/SciEdit.h"
+#include "ui/settings/DailyTipDialog.h"
 
 namespace tessarine {
 
@@ -452,6 +453,7 @@ void MainWindow::Load(Application& app, const std::string& commandLine) {
   for (const auto& f : onSettingsLoaded_) f();
 
   setWindowTitle("Tessarine 2002[*]");
+  ShowDailyTipAtStart(*this);
   OpenStartupDocuments(app, commandLine);
   UpdateMenusForDocumentCount();
   if (EditControl* e = app.ActiveEdit()) {

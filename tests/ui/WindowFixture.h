@@ -34,6 +34,8 @@ class WindowFixture : public ::testing::Test {
   void SetUp() override {
     ASSERT_TRUE(dir.isValid());
     qputenv("XDG_DATA_HOME", (dir.path() + "/data").toUtf8());
+    // No tip window over the documents; a test that wants it turns it on.
+    store.SaveSetting("Miscellaneous", "TipOfTheDay", "off");
   }
   void Start(const std::string& commandLine = "") {
     frame = std::make_unique<MainWindow>();
