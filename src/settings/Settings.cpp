@@ -194,14 +194,14 @@ void LoadSettings(SettingsVars& v, const SettingsStore& s, const std::string& pr
 
   v.MenuSystem = get("Menu", "MenuSystem", "");
   if (v.MenuSystem == "custom") {
-    auto on = [&](const char* key) { return get("Menu", key, "off") == "on"; };
-    v.StructMenu = on("StructMenu");
-    v.AnchorMenu = on("AnchorMenu");
-    v.FormsMenu = on("FormsMenu");
-    v.TablesMenu = on("TablesMenu");
-    v.NetscapeMenu = on("NetscapeMenu");
-    v.IEMenu = on("IEMenu");
-    v.JavaMenu = on("JavaMenu");
+    auto read = [&](const char* key) { return get("Menu", key, "off"); };
+    v.StructMenu = read("StructMenu");
+    v.AnchorMenu = read("AnchorMenu");
+    v.FormsMenu = read("FormsMenu");
+    v.TablesMenu = read("TablesMenu");
+    v.NetscapeMenu = read("NetscapeMenu");
+    v.IEMenu = read("IEMenu");
+    v.JavaMenu = read("JavaMenu");
   }
 
   for (int i = 1; i <= 20; ++i) {

@@ -68,8 +68,9 @@ struct SettingsVars {
   ColorFlags Flags;
   // Menu
   std::string MenuSystem;
-  bool StructMenu = false, AnchorMenu = false, FormsMenu = false, TablesMenu = false,
-       NetscapeMenu = false, IEMenu = false, JavaMenu = false;
+  // Kept as stored: only an exact "off" hides a custom group.
+  std::string StructMenu = "off", AnchorMenu = "off", FormsMenu = "off", TablesMenu = "off",
+              NetscapeMenu = "off", IEMenu = "off", JavaMenu = "off";
   // Favorite URLs: position 0 is never used.
   std::array<std::string, 21> FavoriteURLs;
 

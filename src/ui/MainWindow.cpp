@@ -40,6 +40,7 @@
 #include "ui/KeyStatePanels.h"
 #include "ui/SciEdit.h"
 #include "ui/panels/FileListPanel.h"
+#include "ui/settings/DailyTipDialog.h"
 
 namespace tessarine {
 
@@ -454,6 +455,7 @@ void MainWindow::Load(Application& app, const std::string& commandLine) {
   for (const auto& f : onSettingsLoaded_) f();
 
   setWindowTitle("Tessarine 2002[*]");
+  ShowDailyTipAtStart(*this);
   OpenStartupDocuments(app, commandLine);
   UpdateMenusForDocumentCount();
   if (EditControl* e = app.ActiveEdit()) {

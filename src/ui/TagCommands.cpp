@@ -144,7 +144,7 @@ void BuildInsertMenu(MainWindow& frame) {
   frame.AddCommand(insert, "mnuMetaTags", "M&eta Tags...", true,
                    [f] { ShowTagDialog(*f, "Metatags"); });
   frame.AddCommand(insert, "mnuListItem", "List Ite&m - <LI>", true, run("mnuListItem"));
-  insert->addSeparator();
+  insert->addSeparator()->setObjectName("sep51");
   QMenu* table = SubMenu(insert, "mnuTable", "&Table");
   frame.AddCommand(table, "mnuTableTable", "&Table - <TABLE>", true, run("mnuTableTable"));
   frame.AddCommand(table, "mnuTableRow", "Table &Row - <TR>", true, run("mnuTableRow"));
@@ -154,7 +154,7 @@ void BuildInsertMenu(MainWindow& frame) {
   AddLater(frame, insert, "mnuForm", "&Form Wizard...");
   AddLater(frame, insert, "mnuFrameMaker", "F&rame Wizard...");
   AddLater(frame, insert, "mnuCSSMain", "St&yle Sheets...");
-  insert->addSeparator();
+  insert->addSeparator()->setObjectName("sep4");
   QMenu* scripting = SubMenu(insert, "mnuScriptingMain", "Scri&pting");
   frame.AddCommand(scripting, "mnuScriptTags", "&Script Tags...", true,
                    [f] { ShowTagDialog(*f, "ScriptTags"); });

@@ -122,9 +122,9 @@ TEST_F(LoadSettingsTest, MenuKeysAreReadOnlyForTheCustomSystem) {
   Set("Menu", "TablesMenu", "on");
   Set("Menu", "FormsMenu", "On");
   Load();
-  EXPECT_TRUE(vars.TablesMenu);
-  EXPECT_FALSE(vars.FormsMenu);
-  EXPECT_FALSE(vars.JavaMenu);
+  EXPECT_EQ(vars.TablesMenu, "on");
+  EXPECT_EQ(vars.FormsMenu, "On");  // kept as stored
+  EXPECT_EQ(vars.JavaMenu, "off");  // absent
 
   // Another system leaves the variables as they were.
   Set("Menu", "MenuSystem", "Custom");
@@ -132,8 +132,8 @@ TEST_F(LoadSettingsTest, MenuKeysAreReadOnlyForTheCustomSystem) {
   Set("Menu", "JavaMenu", "on");
   Load();
   EXPECT_EQ(vars.MenuSystem, "Custom");
-  EXPECT_TRUE(vars.TablesMenu);
-  EXPECT_FALSE(vars.JavaMenu);
+  EXPECT_EQ(vars.TablesMenu, "on");
+  EXPECT_EQ(vars.JavaMenu, "off");
 }
 
 TEST_F(LoadSettingsTest, FoldersFontsAndFavouritesComeFromTheStore) {

@@ -36,6 +36,8 @@ class WindowFixture : public ::testing::Test {
     qputenv("XDG_DATA_HOME", (dir.path() + "/data").toUtf8());
     // The start screen would wait for an answer; its own tests turn it on.
     store.SaveSetting("Miscellaneous", "MainMenuBox", "off");
+    // No tip window over the documents; a test that wants it turns it on.
+    store.SaveSetting("Miscellaneous", "TipOfTheDay", "off");
   }
   void Start(const std::string& commandLine = "") {
     frame = std::make_unique<MainWindow>();
