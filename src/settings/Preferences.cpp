@@ -75,7 +75,7 @@ Preferences LoadPreferences(const SettingsVars& v, const SettingsStore& s,
   p.openMRUDoc = v.OpenMRUDoc;
 
   p.fontName = v.DocumentFontName;
-  // A stored size that made no sense shows as an empty field, which keeps it.
+  // A stored number out of its field's range shows as an empty field, which keeps it.
   if (v.DocumentFontSize >= kFontSizeMin && v.DocumentFontSize <= kFontSizeMax)
     p.fontSize = std::to_string(v.DocumentFontSize);
   p.bold = v.Bold;
@@ -105,7 +105,8 @@ Preferences LoadPreferences(const SettingsVars& v, const SettingsStore& s,
   p.wordWrap = v.WordWrap;
   p.beginnerTableWizard = v.BeginnerTableWizard;
   p.alignFileListLeft = v.AlignFileListLeft;
-  p.numberOfMRUFiles = std::to_string(v.NumberOfMRUFiles);
+  if (v.NumberOfMRUFiles >= 1 && v.NumberOfMRUFiles <= kRecentFilesMax)
+    p.numberOfMRUFiles = std::to_string(v.NumberOfMRUFiles);
   p.spellLanguage = s.GetSetting("Options", "SpellLanguage", kDefaultSpellLanguage);
 
   for (int i = 16; i <= 20; ++i) {

@@ -22,7 +22,8 @@ inline constexpr const char* kOnlyFiveFavorites = "Only 5 Favorite URLs are allo
 
 // The ranges the numeric fields accept.
 inline constexpr int kFontSizeMin = 1, kFontSizeMax = 96;
-inline constexpr int kAutoSaveMinutesMax = 1440;
+// Any interval the stored setting can hold.
+inline constexpr int kAutoSaveMinutesMax = 32767;
 inline constexpr int kRecentFilesMax = 10;  // the File menu's entries
 inline constexpr int kCustomButtonCount = 20;
 inline constexpr int kFavoriteCount = 5;  // URL16 to URL20

@@ -323,6 +323,11 @@ TEST_F(PreferencesTest, FieldsComeFromTheSettings) {
   EXPECT_EQ(p.fontSize, "");
   EXPECT_FALSE(Save(p));
   EXPECT_EQ(Get("Font", "FontSize"), "big");
+  store.SaveSetting("Startup", "NumberOfMRUFiles", "25");
+  p = Load();
+  EXPECT_EQ(p.numberOfMRUFiles, "");
+  EXPECT_FALSE(Save(p));
+  EXPECT_EQ(Get("Startup", "NumberOfMRUFiles"), "25");
 
   // A first start: the default spell language, no autosave, no favourites.
   RecordingStore empty;

@@ -100,7 +100,7 @@ TEST_F(PreferencesWidget, OkAppliesColoursWrapAndTheSidePanelToTheOpenDocument) 
   EXPECT_FALSE(form->Editor().WordWrap());
 }
 
-TEST_F(PreferencesWidget, ColourBoxesGovernTheirSquares) {
+TEST_F(PreferencesWidget, BoxesGovernTheirFieldsAndBrowseFillsThem) {
   Start();
   WithPreferences([&](QDialog* d) {
     auto* all = Child<QCheckBox>(d, "colorTags");
@@ -118,6 +118,13 @@ TEST_F(PreferencesWidget, ColourBoxesGovernTheirSquares) {
     EXPECT_EQ(Child<QLabel>(d, "overrideCaption")->text(), "default browser");
     override->setChecked(false);
     EXPECT_EQ(Child<QLabel>(d, "overrideCaption")->text(), "");
+    // Browse fills the program's box; Cancel leaves it.
+    dialogs.Queue("/usr/local/bin/ftp-client");
+    Click(d, "browse_ftpClient");
+    EXPECT_EQ(Child<QLineEdit>(d, "ftpClient")->text(), "/usr/local/bin/ftp-client");
+    Click(d, "browse_ftpClient");
+    EXPECT_EQ(Child<QLineEdit>(d, "ftpClient")->text(), "/usr/local/bin/ftp-client");
+    EXPECT_EQ(dialogs.requests().back().initialFolder, "/usr/local/bin");
     // Autosave: ticked starts at ten minutes.
     auto* autoSave = Child<QCheckBox>(d, "autoSave");
     auto* minutes = Child<QLineEdit>(d, "autoSaveMinutes");

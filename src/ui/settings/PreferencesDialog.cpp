@@ -281,9 +281,10 @@ QWidget* PreferencesDialog::BuildScreenPage() {
   connect(bold_, &QCheckBox::toggled, this, [this] { RedrawPreview(); });
 
   auto* colors = new QGroupBox("Colors");
-  auto* grid = new QGridLayout(colors);
+  auto* colorRow = new QHBoxLayout(colors);
+  auto* grid = new QGridLayout;
   auto* select = new QLabel("Select");
-  grid->addWidget(select, 0, 1, Qt::AlignCenter);
+  grid->addWidget(select, 0, 2, Qt::AlignCenter);
   const std::pair<const char*, const char*> rows[] = {{"colorTags", "&Use Colored Tags"},
                                                       {"tableColorTags", "T&able Tags"},
                                                       {"quoteColorTags", "&Quoted items"},
@@ -301,17 +302,21 @@ QWidget* PreferencesDialog::BuildScreenPage() {
     colorChecks_[static_cast<std::size_t>(i)] = box;
     colorSquares_[static_cast<std::size_t>(i)] = square;
     // The four kinds stand under the colouring of tags as a whole.
-    grid->addWidget(box, i + 1, 0);
-    grid->addWidget(square, i + 1, 1, Qt::AlignCenter);
+    if (i == 0) {
+      grid->addWidget(box, i + 1, 0, 1, 2);
+    } else {
+      grid->addItem(new QSpacerItem(16, 1), i + 1, 0);
+      grid->addWidget(box, i + 1, 1);
+    }
+    grid->addWidget(square, i + 1, 2, Qt::AlignCenter);
     connect(square, &QPushButton::clicked, this, [this, i] { PickColor(i); });
     connect(box, &QCheckBox::toggled, this, [this] {
       UpdateColorSquares();
       RedrawPreview();
     });
   }
-  for (int i = 1; i < 5; ++i)
-    colorChecks_[static_cast<std::size_t>(i)]->setContentsMargins(20, 0, 0, 0);
-  grid->setColumnStretch(2, 1);
+  grid->setRowStretch(6, 1);
+  colorRow->addLayout(grid);
 
   preview_ = new SciEdit;
   preview_->setObjectName("preview");
@@ -321,8 +326,10 @@ QWidget* PreferencesDialog::BuildScreenPage() {
   preview_->setReadOnly(true);
   preview_->setFocusPolicy(Qt::NoFocus);
   preview_->SendScintilla(QsciScintillaBase::SCI_SETCARETSTYLE, 0UL, 0L);
+  preview_->SendScintilla(QsciScintillaBase::SCI_SETHSCROLLBAR, 0UL, 0L);
+  preview_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   preview_->setMinimumSize(200, 130);
-  grid->addWidget(preview_, 0, 2, 6, 1);
+  colorRow->addWidget(preview_, 1);
   layout->addWidget(colors, 1);
   return Page(layout);
 }
@@ -468,7 +475,7 @@ QWidget* PreferencesDialog::BuildMiscellaneousPage() {
   layout->addWidget(enableAutotab_);
   autoSave_ = Check("autoSave", "Auto&save every");
   QHBoxLayout* autoSaveRow =
-      NumberField(autoSaveMinutes_, autoSaveUpDown_, "autoSaveMinutes", 4, 1, kAutoSaveMinutesMax);
+      NumberField(autoSaveMinutes_, autoSaveUpDown_, "autoSaveMinutes", 5, 1, kAutoSaveMinutesMax);
   autoSaveRow->insertWidget(0, autoSave_);
   autoSaveRow->insertSpacing(1, 6);
   autoSaveRow->addSpacing(6);
@@ -481,7 +488,7 @@ QWidget* PreferencesDialog::BuildMiscellaneousPage() {
     autoSaveMinutes_->setEnabled(on);
     autoSaveUpDown_->setEnabled(on);
   });
-  hrPropsBox_ = Check("hrPropsBox", "Show properties box when inserting <&HR> Horizontal line");
+  hrPropsBox_ = Check("hrPropsBox", "Show properties box when inserting <HR> Hori&zontal line");
   showFileList_ = Check("showFileList", "Show &File List");
   wordWrap_ = Check("wordWrap", "&Word Wrap");
   beginnerTableWizard_ = Check("beginnerTableWizard", "Use Beginner &Table Wizard");
