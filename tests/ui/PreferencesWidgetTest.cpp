@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -182,11 +183,18 @@ TEST_F(PreferencesWidget, FavouriteUrlsStopAtFive) {
     Click(d, "replaceInsertUrl");
     EXPECT_EQ(list->item(2)->text(), "http://6.example/");
     EXPECT_EQ(url->text(), "");
+    // Enter in the box is the button, not OK.
+    list->setCurrentRow(4);
+    url->setText("http://seven.example/");
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(url, &enter);
+    EXPECT_TRUE(d->isVisible());
+    EXPECT_EQ(list->item(4)->text(), "http://seven.example/");
     Child<QRadioButton>(d, "menuSystem_beginner")->setChecked(true);
     Click(d, "okButton");
   });
   EXPECT_EQ(store.GetSetting("Favorite URLs", "URL18", ""), "http://6.example/");
-  EXPECT_EQ(store.GetSetting("Favorite URLs", "URL20", ""), "http://5.example/");
+  EXPECT_EQ(store.GetSetting("Favorite URLs", "URL20", ""), "http://seven.example/");
   EXPECT_EQ(app->settings.FavoriteURLs[16], "http://1.example/");
   EXPECT_EQ(store.GetSetting("Menu", "MenuSystem", ""), "beginner");
   EXPECT_EQ(app->settings.MenuSystem, "beginner");

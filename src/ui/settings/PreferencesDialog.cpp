@@ -10,6 +10,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
@@ -536,8 +537,7 @@ QWidget* PreferencesDialog::BuildFavoritesPage() {
   replace->setObjectName("replaceInsertUrl");
   replace->setAutoDefault(false);
   connect(replace, &QPushButton::clicked, this, [this] { ReplaceOrInsertUrl(); });
-  // Enter in the URL box adds it rather than closing the dialog.
-  connect(favoriteUrl_, &QLineEdit::returnPressed, this, [this] { ReplaceOrInsertUrl(); });
+  favoriteUrl_->installEventFilter(this);
   layout->addWidget(favoriteList_, 1);
   layout->addWidget(note);
   auto* row = new QHBoxLayout;
@@ -555,6 +555,14 @@ bool PreferencesDialog::eventFilter(QObject* watched, QEvent* event) {
     if (!favoriteList_->itemAt(click->position().toPoint())) {
       favoriteList_->clearSelection();
       favoriteList_->setCurrentRow(-1);
+      return true;
+    }
+  }
+  // Enter in the URL box adds it rather than closing the dialog.
+  if (watched == favoriteUrl_ && event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+      ReplaceOrInsertUrl();
       return true;
     }
   }
