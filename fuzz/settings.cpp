@@ -1,9 +1,11 @@
-// The settings' number parsers and LoadSettings over a store holding any texts.
+// The settings' number parsers, and LoadSettings and the Preferences fields over a store
+// holding any texts.
 #include <cmath>
 #include <cstdlib>
 
 #include "FuzzInput.h"
 #include "platform/SettingsStore.h"
+#include "settings/Preferences.h"
 #include "settings/Settings.h"
 
 using namespace tessarine;
@@ -20,6 +22,11 @@ const char* const kKeys[][2] = {
     {"Directory", "WorkingDirectory"},
     {"Menu", "MenuSystem"},
     {"Miscellaneous", "WordWrap"},
+    {"Font", "FontSize"},
+    {"Miscellaneous", "AutoSave"},
+    {"ColoredTags", "HTMLTagColor"},
+    {"Miscellaneous", "TipOfTheDay"},
+    {"Favorite URLs", "URL16"},
 };
 }  // namespace
 
@@ -45,5 +52,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   SettingsVars vars;
   LoadSettings(vars, store, "/nonexistent");
+
+  // Whatever was stored, the Preferences fields hold nothing OK would refuse.
+  const Preferences p = LoadPreferences(vars, store, "/nonexistent");
+  FUZZ_CHECK(!p.Validate());
+  int whole = 0;
+  if (ParseWholeNumber(number, 1, 96, whole)) FUZZ_CHECK(whole >= 1 && whole <= 96);
   return 0;
 }

@@ -343,9 +343,9 @@ std::vector<ShortcutGroup> ShortcutBarGroups(const SettingsStore& store) {
   return groups;
 }
 
-bool ShortcutKeyAvailable(const std::string& key) {
-  // Every dialog of the bar exists; the custom button's needs the preferences.
-  return key != "Add custom button";
+bool ShortcutKeyAvailable(const std::string&) {
+  // Every dialog of the bar exists.
+  return true;
 }
 
 std::string HelpPagePath(const Application& app, int contextId) {
@@ -368,7 +368,7 @@ std::string ShortcutBarClick(Application& app, const std::string& key) {
     app.shell.OpenInDefaultViewer(app.programFolder + "/helpfulsites.html");
     return "";
   }
-  if (key == "Add custom button") return "OptionsFrm";
+  if (key == "Add custom button") return "Preferences:Custom buttons";
 
   if (!app.ActiveDocument()) return "";
   if (key == "TD" || key == "TR" || key == "TH" || key == "TABLE") {

@@ -56,7 +56,7 @@ struct ShortcutGroup {
 std::vector<ShortcutGroup> ShortcutBarGroups(const SettingsStore& store);
 // Group 5: the add item, then one item per named custom button.
 std::vector<ShortcutItem> LoadCustomButtons(const SettingsStore& store);
-// A click on an item, by key. Returns a dialog name: "OptionsFrm", "ScriptTags",
+// A click on an item, by key. Returns a dialog name: "Preferences:Custom buttons", "ScriptTags",
 // "TableWizard", "FormWizard", or "FormElement:n" with the field kind n.
 std::string ShortcutBarClick(Application& app, const std::string& key);
 // Keys whose dialogs aren't built yet: the bar shows them dimmed.

@@ -592,6 +592,19 @@ void MainWindow::UpdateMenusForDocumentCount() {
   }
 }
 
+void MainWindow::PlaceSidePanel() {
+  if (!app_) return;
+  const bool left = app_->settings.AlignFileListLeft;
+  if ((hsplit_->indexOf(tabStrip1_) == 0) != left) {
+    // The panel keeps its width on the other side.
+    const QList<int> sizes = hsplit_->sizes();
+    hsplit_->insertWidget(left ? 0 : 1, tabStrip1_);
+    if (sizes.size() == 2) hsplit_->setSizes({sizes[1], sizes[0]});
+  }
+  tabStrip1_->setVisible(app_->settings.ShowFileList);
+  commands_["mnuViewFileList"]->setChecked(app_->settings.ShowFileList);
+}
+
 void MainWindow::OnToolbarButton(const QString& toolbar, const QString& key) {
   if (!app_) return;
   const auto it = buttonCommands_.constFind(toolbar + "/" + key);

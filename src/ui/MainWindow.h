@@ -88,6 +88,8 @@ class MainWindow : public QMainWindow, public Frame {
     onNewWindow_.push_back(std::move(f));
   }
   void UpdateMenusForDocumentCount();
+  // The side panel's side and visibility, as the loaded settings have them.
+  void PlaceSidePanel();
   // The open group of the shortcut bar, saved when the frame closes.
   void SetShortcutBarGroup(const std::string& group) { shortcutBarGroup_ = group; }
 

@@ -52,12 +52,9 @@ void BuildProgramCommands(MainWindow& frame) {
   frame.BindButton("tbrTools", "FTP", program("FTP"));
   frame.BindButton("tbrFile", "Print", [f] { Print(*f); });
 
-  // Yes in the failure messages opens Preferences once that command does something.
+  // Yes in the failure messages opens Preferences at the programs' page.
   frame.OnSettingsLoaded([f] {
-    f->App()->programs.OpenPreferences = [f] {
-      QAction* preferences = f->Command("mnuPreferences");
-      if (preferences && preferences->isEnabled()) preferences->trigger();
-    };
+    f->App()->programs.OpenPreferences = [f] { f->ShowDialog("Preferences:Previewers/Apps"); };
   });
 }
 

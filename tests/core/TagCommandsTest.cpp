@@ -264,7 +264,7 @@ TEST_F(TagCommands, ShortcutBarTagsAndSnippets) {
 TEST_F(TagCommands, ShortcutBarWithoutADocumentOnlyHelps) {
   EXPECT_EQ(ShortcutBarClick(t.app, "TD"), "");
   EXPECT_EQ(ShortcutBarClick(t.app, "Script tags"), "");
-  EXPECT_EQ(ShortcutBarClick(t.app, "Add custom button"), "OptionsFrm");
+  EXPECT_EQ(ShortcutBarClick(t.app, "Add custom button"), "Preferences:Custom buttons");
   // No help folder in this application folder: the missing page is told, not opened.
   ShortcutBarClick(t.app, "HowToUpload");
   ShortcutBarClick(t.app, "HelpfulWebSites");

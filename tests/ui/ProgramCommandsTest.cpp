@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QPrintDialog>
+#include <QStackedWidget>
 #include <QTemporaryDir>
 #include <QThread>
 #include <QTimer>
@@ -119,9 +120,14 @@ TEST_F(ProgramCommandsTest, BrowserEntriesAndButtonsReachTheBrowserWithThePagesP
 TEST_F(ProgramCommandsTest, FtpButtonAsksForTheClientAndYesLeadsToPreferences) {
   Start();
   int preferences = 0;
-  QAction* prefs = frame->Command("mnuPreferences");
-  QObject::connect(prefs, &QAction::triggered, [&] { ++preferences; });
-  prefs->setEnabled(true);  // as it will be once Preferences exists
+  OnDialog([&](QDialog* d) {
+    EXPECT_EQ(d->objectName(), "PreferencesDialog");
+    auto* pages = d->findChild<QStackedWidget*>("pages");
+    ASSERT_NE(pages, nullptr);
+    EXPECT_TRUE(pages->currentWidget()->isAncestorOf(d->findChild<QWidget*>("ftpClient")));
+    ++preferences;
+    d->reject();
+  });
   messages.Queue(MsgAnswer::OK);
   messages.Queue(MsgAnswer::Yes);
   frame->Button("tbrTools", "FTP")->trigger();  // the file dialog is cancelled

@@ -14,6 +14,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QRegularExpression>
+#include <QStackedWidget>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -98,15 +99,21 @@ TEST_F(TagCommandsWidget, TheEditorLeavesTheTagShortcutsToTheMenus) {
   EXPECT_TRUE(lineCut.isAccepted());
 }
 
-TEST_F(TagCommandsWidget, LaterWizardsStayDimmed) {
+TEST_F(TagCommandsWidget, LaterWizardsStayDimmedAndTheBarsKeysOpenTheirDialogs) {
   // Page properties come later.
   EXPECT_FALSE(frame->Button("tbrInsert", "Page Properties")->isEnabled());
   EXPECT_TRUE(frame->Button("tbrInsert", "Special Characters")->isEnabled());
   EXPECT_TRUE(frame->Button("tbrFormat", "BR")->isEnabled());
   auto* bar = frame->findChild<ui::ShortcutBar*>("ShortcutBar");
-  // The custom button's key waits for the preferences.
-  EXPECT_TRUE(bar->HasKey("Add custom button"));
-  EXPECT_FALSE(bar->ClickKey("Add custom button"));
+  // The custom button's key opens the preferences at their page.
+  OnDialog([](QDialog* d) {
+    EXPECT_EQ(d->objectName(), "PreferencesDialog");
+    auto* pages = d->findChild<QStackedWidget*>("pages");
+    ASSERT_NE(pages, nullptr);
+    EXPECT_TRUE(pages->currentWidget()->isAncestorOf(d->findChild<QWidget*>("customButtonName")));
+    d->reject();
+  });
+  EXPECT_TRUE(bar->ClickKey("Add custom button"));
   // Its table wizard is there now: the key opens it.
   EXPECT_TRUE(bar->HasKey("TableWizard"));
   OnDialog([](QDialog* d) {
