@@ -4,6 +4,7 @@
 #include <tidy/tidybuffio.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <filesystem>
@@ -16,19 +17,17 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string WholeNumber(const std::string& text) {
-  return std::to_string(static_cast<long long>(std::nearbyint(Val(text))));
+// The number as Tidy takes it: rounded, and held within 0..most so that no value typed
+// can overflow the conversion.
+std::string WholeNumber(const std::string& text, double most) {
+  const double n = std::nearbyint(Val(text));
+  return std::to_string(static_cast<long long>(n > 0 ? std::min(n, most) : 0));
 }
 
 // The indent box holds at most three digits; a larger number from elsewhere would have
 // Tidy write gigabytes of spaces for a modestly nested page.
 constexpr double kMostIndentSpaces = 999;
-
-std::string IndentSpaces(const std::string& text) {
-  if (text.empty()) return "2";
-  const double n = std::nearbyint(Val(text));
-  return std::to_string(static_cast<long long>(n < 0 ? 0 : n > kMostIndentSpaces ? kMostIndentSpaces : n));
-}
+constexpr double kMostWrap = 2147483647;
 
 // Tidy's run on the page, the cleaned page written to `outputPath` when not empty.
 int RunTidyToFile(const TidyJob& job, const std::string& outputPath) {
@@ -101,13 +100,14 @@ std::vector<TidyOption> CleanOptionSequence(const CleanOptions& o) {
   if (o.formatXhtml) seq.push_back({"output-xhtml", "yes"});
   if (o.indent) {
     seq.push_back({"indent", "auto"});
-    seq.push_back({"indent-spaces", IndentSpaces(o.indentSpaces)});
+    seq.push_back({"indent-spaces",
+                   o.indentSpaces.empty() ? "2" : WholeNumber(o.indentSpaces, kMostIndentSpaces)});
   } else {
     seq.push_back({"indent", "no"});
   }
   if (o.wrapAttributes) seq.push_back({"indent-attributes", "yes"});
   seq.push_back({"wrap", "0"});
-  if (o.wrap && !o.wrapChars.empty()) seq.push_back({"wrap", WholeNumber(o.wrapChars)});
+  if (o.wrap && !o.wrapChars.empty()) seq.push_back({"wrap", WholeNumber(o.wrapChars, kMostWrap)});
   return seq;
 }
 

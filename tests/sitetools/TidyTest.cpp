@@ -54,6 +54,10 @@ TEST(TidyOptions, SetInTheirOrder) {
   EXPECT_EQ(CleanOptionSequence(numbers)[1], (TidyOption{"indent-spaces", "999"}));
   numbers.indentSpaces = "-3";
   EXPECT_EQ(CleanOptionSequence(numbers)[1], (TidyOption{"indent-spaces", "0"}));
+  // A wrap too large for any number type is held at the largest Tidy takes.
+  numbers.wrap = true;
+  numbers.wrapChars = std::string(60, '2');
+  EXPECT_EQ(CleanOptionSequence(numbers).back(), (TidyOption{"wrap", "2147483647"}));
 }
 
 TEST(TidyOptions, EveryNameAndValueIsTidys) {
