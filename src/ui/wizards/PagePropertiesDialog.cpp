@@ -71,6 +71,7 @@ PagePropertiesDialog::PagePropertiesDialog(Application& app, QWidget* parent)
   auto* layout = new QVBoxLayout(this);
   tabs_ = new QTabWidget;
   tabs_->setObjectName("pageTabs");
+  tabs_->setUsesScrollButtons(false);  // all six tabs in sight: the dialog widens to them
   tabs_->addTab(TitlePage(), "Page Title");
   tabs_->addTab(ColorsPage(), "Colors");
   tabs_->addTab(BackgroundPage(), "Background image");
@@ -89,7 +90,7 @@ PagePropertiesDialog::PagePropertiesDialog(Application& app, QWidget* parent)
   });
   connect(this, &QDialog::rejected, this, [this] { PageProperties_Cancel(app_); });
   connect(tabs_, &QTabWidget::currentChanged, this, [this](int index) { FocusPage(index); });
-  resize(560, 440);
+  resize(600, 400);
 
   const PageOpening opening = PageProperties_Open(app_);
   SetModel(opening.form);
@@ -237,8 +238,9 @@ QWidget* PagePropertiesDialog::MetaTagsPage() {
   v->addStretch();
   connect(metaTags_, &QPushButton::clicked, this, [this] {
     MetaTagsDialog(app_, this).exec();
-    // Its closing ends a tag edit; this one goes on.
+    // Its closing ends a tag edit and hands the focus to the document; this one goes on.
     app_.wizards.TagEditActive = 1;
+    metaTags_->setFocus();
   });
   return page;
 }
