@@ -190,5 +190,44 @@ TEST_F(PagePropertiesWidget, CancelledFontEditLeavesNoReplacementBehind) {
   EXPECT_NE(Edit().Text().find("<B>Big</B>"), std::string::npos);
 }
 
+TEST_F(PagePropertiesWidget, EditTagReopensAnAppletAndItsParameter) {
+  const std::string page =
+      "<HTML><BODY>\r\n<APPLET CODE=Clock.class WIDTH=120 ALIGN=middle>\r\n"
+      "\t<PARAM NAME=\"speed\" VALUE=\"slow\">\r\n</APPLET>\r\n</BODY></HTML>";
+  const std::string path = Path("clock.htm");
+  std::ofstream(path, std::ios::binary) << page << "\r\n";
+  dialogs.Queue(path);
+  frame->Command("FileOpen")->trigger();
+  ASSERT_EQ(Edit().Text(), page);
+
+  OnDialog([this](QDialog* d) {
+    EXPECT_EQ(d->objectName(), "AppletDialog");
+    EXPECT_EQ(Child<QLineEdit>(d, "appletFile")->text(), "Clock.class");
+    EXPECT_EQ(Child<QComboBox>(d, "align")->currentText(), "Middle");
+    Child<QLineEdit>(d, "width")->setText("200");
+    Child<QPushButton>(d, "okButton")->click();
+  });
+  EditTagAt("Clock");
+  std::string expected = page;
+  const std::string oldApplet = "<APPLET CODE=Clock.class WIDTH=120 ALIGN=middle>";
+  // The opening tag alone, with the line end the dialog gives it; the parameter stays.
+  expected.replace(expected.find(oldApplet), oldApplet.size(),
+                   "<APPLET CODE=\"Clock.class\" ALIGN=\"Middle\" WIDTH=\"200\">\r\n");
+  EXPECT_EQ(Edit().Text(), expected);
+
+  OnDialog([this](QDialog* d) {
+    EXPECT_EQ(d->objectName(), "AppletParameterDialog");
+    EXPECT_EQ(Child<QLineEdit>(d, "parameterName")->text(), "speed");
+    EXPECT_EQ(Child<QLineEdit>(d, "parameterValue")->text(), "slow");
+    Child<QLineEdit>(d, "parameterValue")->setText("fast");
+    Child<QPushButton>(d, "insertButton")->click();
+  });
+  EditTagAt("speed");
+  const std::string oldParam = "<PARAM NAME=\"speed\" VALUE=\"slow\">";
+  expected.replace(expected.find(oldParam), oldParam.size(),
+                   "<PARAM NAME=\"speed\" VALUE=\"fast\">");
+  EXPECT_EQ(Edit().Text(), expected);
+}
+
 }  // namespace
 }  // namespace tessarine
