@@ -101,6 +101,9 @@ TEST_F(PagePropertiesWidget, MenuOpensTheDialogOnThePageAndOkRewritesIt) {
   EXPECT_EQ(Edit().Text(), expected);
   EXPECT_EQ(app->wizards.TagEditActive, 0);
   EXPECT_EQ(store.GetSetting("Miscellaneous", "ShowPageProps", ""), "1");
+  // Title and tag come back together.
+  Edit().Undo();
+  EXPECT_EQ(Edit().Text(), kPage);
 }
 
 TEST_F(PagePropertiesWidget, FixedWatermarkWithoutAFileKeepsTheDialogOpen) {
