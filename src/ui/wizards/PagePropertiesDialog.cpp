@@ -300,12 +300,18 @@ void PagePropertiesDialog::PickColorFor(std::size_t index) {
 }
 
 void PagePropertiesDialog::UpdatePreview() {
+  // A colour left empty shows as a browser shows it, not as the swatch's grey.
+  static const QColor browserDefaults[5] = {Qt::white, Qt::black, QColor(0, 0, 255),
+                                            QColor(128, 0, 128), QColor(255, 0, 0)};
+  auto shade = [this](std::size_t i) {
+    return colorCombos_[i]->currentText().isEmpty() ? browserDefaults[i] : shades_[i];
+  };
   QPalette p = preview_->palette();
-  p.setColor(QPalette::Window, shades_[0]);
+  p.setColor(QPalette::Window, shade(0));
   preview_->setPalette(p);
   for (std::size_t i = 0; i < 4; ++i) {
     QPalette lp = previewTexts_[i]->palette();
-    lp.setColor(QPalette::WindowText, shades_[i + 1]);
+    lp.setColor(QPalette::WindowText, shade(i + 1));
     previewTexts_[i]->setPalette(lp);
   }
 }
