@@ -5,6 +5,8 @@
 #include <cstring>
 
 #include "core/Application.h"
+#include "framesforms/Applet.h"
+#include "framesforms/AppletParameter.h"
 #include "platform/DocumentWindow.h"
 #include "platform/EditControl.h"
 #include "wizards/FormatChar.h"
@@ -180,6 +182,31 @@ void FillHorizontalLine(std::string_view tag, HorizontalLine& form) {
   form.cmbAlign.clear();
   for (const char* item : {"Left", "Right", "Center"})
     if (EqualsIgnoringCase(item, align)) form.cmbAlign = item;
+}
+
+void FillApplet(std::string_view tag, AppletInputs& form) {
+  form.altText = ParseTag(tag, "ALT=");
+  form.width = ParseTag(tag, "WIDTH=");
+  form.height = ParseTag(tag, "HEIGHT=");
+  form.appletFile = ParseTag(tag, "CODE=");
+  form.codebase = ParseTag(tag, "CODEBASE=");
+  if (const std::string align = ParseTag(tag, "ALIGN="); !align.empty()) {
+    // As for images: the list's "Bottom(Default)" stands for bottom.
+    for (const char* item : kAppletAligns) {
+      std::string_view name = item;
+      if (const std::size_t paren = name.find('('); paren != std::string_view::npos)
+        name = name.substr(0, paren);
+      if (EqualsIgnoringCase(name, align)) form.align = item;
+    }
+  }
+  form.verticalSpace = ParseTag(tag, "VSPACE=");
+  form.horizontalSpace = ParseTag(tag, "HSPACE=");
+  form.changingExistingTag = true;
+}
+
+void FillAppletParameter(std::string_view tag, AppletParameter& form) {
+  form.name = ParseTag(tag, "NAME=");
+  form.value = ParseTag(tag, "VALUE=");
 }
 
 EditTagRequest EditTag_Begin(Application& app, DocumentWindow& window) {

@@ -15,6 +15,8 @@ struct Hyperlink;
 struct ImageTag;
 struct FormatChar;
 struct HorizontalLine;
+struct AppletInputs;
+struct AppletParameter;
 
 enum class TagWizard {
   None,
@@ -73,6 +75,9 @@ void FillHyperlink(std::string_view currentTag, const std::string& linkText, Hyp
 void FillBody(std::string_view currentTag, BodyTagFields& form);
 void FillFormatChar(std::string_view currentTag, FormatChar& form);
 void FillHorizontalLine(std::string_view currentTag, HorizontalLine& form);
+// An applet read back writes its opening tag alone; its parameter lines stay in the page.
+void FillApplet(std::string_view currentTag, AppletInputs& form);
+void FillAppletParameter(std::string_view currentTag, AppletParameter& form);
 
 // The command up to its dialog: marks a tag edit under way, finds the tag before the
 // window's caret and selects it. The wizard then replaces the selection as it always does;

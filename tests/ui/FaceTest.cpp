@@ -24,6 +24,10 @@ namespace {
 
 class FaceTest : public WindowFixture {
  protected:
+  void SetUp() override {
+    WindowFixture::SetUp();
+    store.SaveSetting("Miscellaneous", "ShowPageProps", "0");  // New opens no dialog
+  }
   long MarginWidth() {
     return Active()->Editor().SendScintilla(QsciScintillaBase::SCI_GETMARGINWIDTHN, 0UL);
   }

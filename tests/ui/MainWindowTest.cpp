@@ -54,8 +54,7 @@ TEST_F(MainWindowTest, FirstStartShowsUntitledOneWithTheFramesToolbars) {
   EXPECT_EQ(frame->Button("tbrTools", "Color Tags")->toolTip(), "Refresh HTML tag colors (F2)");
   EXPECT_EQ(frame->Button("tbrInsert", "Frames")->toolTip(), "Frame Wizard");
   EXPECT_TRUE(frame->Button("tbrFormat", "Bold")->isEnabled());
-  // Commands of later parts are present but dimmed.
-  EXPECT_FALSE(frame->Button("tbrInsert", "Page Properties")->isEnabled());
+  EXPECT_TRUE(frame->Button("tbrInsert", "Page Properties")->isEnabled());
   // Nothing changed yet: no Save.
   EXPECT_FALSE(frame->Button("tbrFile", "Save")->isEnabled());
 }

@@ -14,6 +14,10 @@ namespace {
 
 class StatusPanelsTest : public WindowFixture {
  protected:
+  void SetUp() override {
+    WindowFixture::SetUp();
+    store.SaveSetting("Miscellaneous", "ShowPageProps", "0");  // New opens no dialog
+  }
   QString Panel(int i) {
     auto* l = frame->findChild<QLabel*>(QString("StatusBar1Panel%1").arg(i));
     return l ? l->text() : "(none)";

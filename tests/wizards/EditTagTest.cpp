@@ -6,6 +6,8 @@
 #include <string>
 
 #include "core/TestApp.h"
+#include "framesforms/Applet.h"
+#include "framesforms/AppletParameter.h"
 #include "platform/EditControl.h"
 #include "wizards/EditTag.h"
 #include "wizards/FormatChar.h"
@@ -322,6 +324,37 @@ TEST(EditTagCommand, UnknownTagClearsTheMarkAndKeepsTheSelection) {
   edit.Select(0, 0);
   EXPECT_EQ(EditTag_Begin(t.app, window).wizard, TagWizard::None);
   EXPECT_EQ(t.app.wizards.TagEditActive, 1);  // stays up until a wizard closes
+}
+
+TEST(EditTagFill, AppletAndParameterTagsReopenAsTheirDialogsWriteThem) {
+  AppletInputs applet;
+  FillApplet(
+      "APPLET CODEBASE=\"classes\" CODE=\"Clock.class\" WIDTH=120 HEIGHT=\"40\" "
+      "ALIGN=bottom ALT=\"A clock\" VSPACE=2>",
+      applet);
+  EXPECT_EQ(applet.appletFile, "Clock.class");
+  EXPECT_EQ(applet.codebase, "classes");
+  EXPECT_EQ(applet.width, "120");
+  EXPECT_EQ(applet.height, "40");
+  EXPECT_EQ(applet.align, "Bottom(Default)");
+  EXPECT_EQ(applet.altText, "A clock");
+  EXPECT_EQ(applet.verticalSpace, "2");
+  EXPECT_EQ(applet.horizontalSpace, "");
+  EXPECT_TRUE(applet.changingExistingTag);
+  // Written back, the opening tag alone: its parameter lines and end tag stay in the page.
+  EXPECT_EQ(BuildApplet(true, applet),
+            "<APPLET CODE=\"Clock.class\" CODEBASE=\"classes\" ALT=\"A clock\" "
+            "ALIGN=\"Bottom\" WIDTH=\"120\" HEIGHT=\"40\" VSPACE=\"2\">\r\n");
+
+  AppletInputs unaligned;
+  unaligned.align = "Left";
+  FillApplet("applet code=a.class align=sideways>", unaligned);
+  EXPECT_EQ(unaligned.align, "Left") << "a value the list lacks leaves the choice";
+
+  AppletParameter p;
+  FillAppletParameter("param name=\"speed\" value=\"fast and slow\">", p);
+  EXPECT_EQ(p.name, "speed");
+  EXPECT_EQ(p.value, "fast and slow");
 }
 
 }  // namespace

@@ -84,6 +84,11 @@ AppletParameterDialog::AppletParameterDialog(Application& app, QWidget* parent,
   if (auto* insert = findChild<QPushButton*>("insertButton")) insert->setText("Insert");
 }
 
+void AppletParameterDialog::SetParameter(const AppletParameter& p) {
+  name_->setText(Q(p.name));
+  value_->setText(Q(p.value));
+}
+
 AppletDialog::AppletDialog(Application& app, QWidget* parent)
     : FrameFormDialog(app, "AppletDialog", "Java Applet", parent) {
   auto* layout = new QVBoxLayout(this);

@@ -8,6 +8,7 @@ class QListWidget;
 
 namespace tessarine {
 struct AppletInputs;
+struct AppletParameter;
 }
 
 namespace tessarine::ui {
@@ -18,6 +19,8 @@ class AppletParameterDialog : public FrameFormDialog {
   AppletParameterDialog(Application& app, QWidget* parent, const std::string& line = "");
   // The line built at Insert.
   const std::string& Line() const { return line_; }
+  // Filled from a PARAM tag already in the page.
+  void SetParameter(const AppletParameter& p);
 
  private:
   QLineEdit* name_;

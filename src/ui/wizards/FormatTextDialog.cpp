@@ -132,6 +132,22 @@ tessarine::FormatChar FormatTextDialog::Model() const {
   return m;
 }
 
+void FormatTextDialog::SetModel(const tessarine::FormatChar& m) {
+  fontFace_->setEditText(Q(m.fontFace));
+  colorHex_->setText(Q(m.colorHex));
+  // A size the list lacks ("+1") is kept as a row of its own, and written back as it was.
+  const QString size = Q(m.sizeRow);
+  int row = size.isEmpty() ? 0 : sizeRow_->findText(size);
+  if (row < 0) {
+    sizeRow_->addItem(size);
+    row = sizeRow_->count() - 1;
+  }
+  sizeRow_->setCurrentIndex(row);
+  if (const int at = position_->findText(Q(m.position)); at >= 0) position_->setCurrentIndex(at);
+  for (const auto& [box, field] : styleBoxes_) box->setChecked(m.*field);
+  UpdateSample();
+}
+
 void FormatTextDialog::UpdateSample() {
   QFont f = font();
   if (!fontFace_->currentText().isEmpty()) f.setFamily(fontFace_->currentText().section(',', 0, 0));

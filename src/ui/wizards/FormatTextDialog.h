@@ -21,6 +21,8 @@ class FormatTextDialog : public WizardDialog {
  public:
   FormatTextDialog(Application& app, QWidget* parent);
   tessarine::FormatChar Model() const;
+  // Filled from a tag already in the page.
+  void SetModel(const tessarine::FormatChar& m);
 
  private:
   void UpdateSample();

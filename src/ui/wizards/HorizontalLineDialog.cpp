@@ -65,4 +65,11 @@ tessarine::HorizontalLine HorizontalLineDialog::Model() const {
   return m;
 }
 
+void HorizontalLineDialog::SetModel(const tessarine::HorizontalLine& m) {
+  thickness_->setText(Q(m.thickness));
+  lineWidth_->setText(Q(m.lineWidth));
+  noShading_->setChecked(m.noShading);
+  cmbAlign_->setCurrentIndex(cmbAlign_->findText(Q(m.cmbAlign)));
+}
+
 }  // namespace tessarine::ui

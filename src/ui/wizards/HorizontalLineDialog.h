@@ -17,6 +17,8 @@ class HorizontalLineDialog : public WizardDialog {
  public:
   HorizontalLineDialog(Application& app, QWidget* parent);
   tessarine::HorizontalLine Model() const;
+  // Filled from a tag already in the page.
+  void SetModel(const tessarine::HorizontalLine& m);
 
  private:
   QLineEdit* thickness_;
