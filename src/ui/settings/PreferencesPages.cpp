@@ -304,7 +304,7 @@ QWidget* PreferencesDialog::BuildMenusPage() {
     grid->addWidget(new QLabel(systems[i].second), i, 1);
   }
   // Which groups the custom menus keep.
-  auto* customize = new QPushButton("Cho"C&hoose..."ose...");
+  auto* customize = new QPushButton("Cho&ose...");
   customize->setObjectName("customMenuButton");
   connect(customize, &QPushButton::clicked, this, [this] {
     if (ShowCustomMenuDialog(app_, this)) menuSystems_[3]->setChecked(true);
