@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTabWidget>
 #include <QTextCursor>
@@ -140,6 +141,26 @@ TEST_F(ScriptReferenceWidget, TheJavaScriptTreeDescribesObjectsAndKeepsCaseInUpp
   tree->expandItem(Node(tree, "window"));
   DoubleClick(tree, Node(tree, "window", "setTimeout"));
   EXPECT_EQ(Edit().Text(), "aDateMath.random()window.setTimeout(expression, msec)b");
+}
+
+TEST_F(ScriptReferenceWidget, TheKeyboardDescribesAndEnterInserts) {
+  auto* panel = Visit("aspReference");
+  ASSERT_NE(panel, nullptr);
+  QTreeWidget* tree = panel->Tree();
+  Click(tree, Node(tree, "Request"));
+  EXPECT_TRUE(panel->DescriptionBox()->toPlainText().startsWith("Request object"));
+  auto key = [tree](int k) {
+    QKeyEvent press(QEvent::KeyPress, k, Qt::NoModifier);
+    QApplication::sendEvent(tree, &press);
+  };
+  key(Qt::Key_Down);
+  EXPECT_TRUE(panel->DescriptionBox()->toPlainText().startsWith("Response object"));
+  key(Qt::Key_Right);  // open it
+  key(Qt::Key_Down);
+  EXPECT_TRUE(panel->DescriptionBox()->toPlainText().startsWith("Buffer\n"));
+  Edit().SetText("");
+  key(Qt::Key_Return);
+  EXPECT_EQ(Edit().Text(), "Response.Buffer");
 }
 
 TEST_F(ScriptReferenceWidget, ADoubleClickBeforeAnyClickInsertsNothing) {

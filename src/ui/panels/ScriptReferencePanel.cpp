@@ -1,6 +1,6 @@
 #include "ui/panels/ScriptReferencePanel.h"
 
-#include <QHeaderView>
+#include <QKeyEvent>
 #include <QMap>
 #include <QPainter>
 #include <QPainterPath>
@@ -111,6 +111,7 @@ ScriptReferencePanel::ScriptReferencePanel(Language language, MainWindow& frame,
   // A double click inserts; it should not also fold the object away.
   tree_->setExpandsOnDoubleClick(false);
   description_->setReadOnly(true);
+  description_->setTabChangesFocus(true);
   description_->setPlainText(asp ? kAspHint : kJsHint);
 
   auto* splitter = new QSplitter(Qt::Vertical);
@@ -127,6 +128,22 @@ ScriptReferencePanel::ScriptReferencePanel(Language language, MainWindow& frame,
           [this](QTreeWidgetItem* node, int) { ClickNode(node); });
   connect(tree_, &QTreeWidget::itemDoubleClicked, this,
           [this](QTreeWidgetItem*, int) { DoubleClickNode(); });
+  // From the keyboard: moving to a node describes it, Enter inserts it.
+  connect(tree_, &QTreeWidget::currentItemChanged, this,
+          [this](QTreeWidgetItem* node) { ClickNode(node); });
+  tree_->installEventFilter(this);
+}
+
+bool ScriptReferencePanel::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == tree_ && event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if ((key == Qt::Key_Return || key == Qt::Key_Enter) && tree_->currentItem()) {
+      ClickNode(tree_->currentItem());
+      DoubleClickNode();
+      return true;
+    }
+  }
+  return QWidget::eventFilter(watched, event);
 }
 
 ScriptReferencePanel::~ScriptReferencePanel() = default;

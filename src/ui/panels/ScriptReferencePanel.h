@@ -35,6 +35,7 @@ class ScriptReferencePanel : public QWidget {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   MainWindow& frame_;
