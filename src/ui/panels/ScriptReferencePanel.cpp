@@ -1,7 +1,6 @@
 #include "ui/panels/ScriptReferencePanel.h"
 
 #include <QKeyEvent>
-#include <QMap>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
@@ -32,9 +31,7 @@ constexpr int kKeyRole = Qt::UserRole;
 
 // Small drawn icons: a box for an object, a tag for a property, a diamond for a method and a
 // flash for an event.
-QIcon NodeIcon(int itemType) {
-  static QMap<int, QIcon> icons;
-  if (icons.contains(itemType)) return icons[itemType];
+QIcon DrawNodeIcon(int itemType) {
   QPixmap pixmap(16, 16);
   pixmap.fill(Qt::transparent);
   QPainter p(&pixmap);
@@ -84,7 +81,7 @@ QIcon NodeIcon(int itemType) {
     }
   }
   p.end();
-  return icons[itemType] = QIcon(pixmap);
+  return QIcon(pixmap);
 }
 
 }  // namespace
@@ -134,6 +131,8 @@ ScriptReferencePanel::ScriptReferencePanel(Language language, MainWindow& frame,
   tree_->installEventFilter(this);
 }
 
+ScriptReferencePanel::~ScriptReferencePanel() = default;
+
 bool ScriptReferencePanel::eventFilter(QObject* watched, QEvent* event) {
   if (watched == tree_ && event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();
@@ -146,8 +145,6 @@ bool ScriptReferencePanel::eventFilter(QObject* watched, QEvent* event) {
   return QWidget::eventFilter(watched, event);
 }
 
-ScriptReferencePanel::~ScriptReferencePanel() = default;
-
 void ScriptReferencePanel::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   // Built once the tab is really visited: tabs come and go while the side panel is put
@@ -157,14 +154,19 @@ void ScriptReferencePanel::showEvent(QShowEvent* event) {
   });
 }
 
+std::span<const ReferenceObject> ScriptReferencePanel::Objects() const {
+  return language_ == Language::ASP ? ASPObjects() : JSObjects();
+}
+
 void ScriptReferencePanel::BuildTreeOnce() {
   if (tree_->topLevelItemCount() > 0) return;
-  const auto objects = language_ == Language::ASP ? ASPObjects() : JSObjects();
+  QIcon icons[4];
+  for (int type = 0; type < 4; ++type) icons[type] = DrawNodeIcon(type);
   QTreeWidgetItem* root = nullptr;
-  for (const ReferenceNode& node : BuildTree(objects, *items_)) {
+  for (const ReferenceNode& node : BuildTree(Objects(), *items_)) {
     auto* item = new QTreeWidgetItem(QStringList{Q(node.text)});
     item->setData(0, kKeyRole, Q(node.key));
-    item->setIcon(0, NodeIcon(node.itemType));
+    item->setIcon(0, icons[node.itemType]);
     if (node.parentKey.empty()) {
       tree_->addTopLevelItem(item);
       root = item;
@@ -176,8 +178,7 @@ void ScriptReferencePanel::BuildTreeOnce() {
 
 void ScriptReferencePanel::ClickNode(QTreeWidgetItem* node) {
   if (!node) return;
-  const auto objects = language_ == Language::ASP ? ASPObjects() : JSObjects();
-  const NodeDescription d = DescribeNode(objects, *items_, node->text(0).toStdString(),
+  const NodeDescription d = DescribeNode(Objects(), *items_, node->text(0).toStdString(),
                                          node->data(0, kKeyRole).toString().toStdString());
   description_->setHtml(Q(DescriptionHtml(d)));
   insertText_ = d.insertText;

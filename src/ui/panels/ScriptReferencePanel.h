@@ -5,6 +5,7 @@
 
 #include <QWidget>
 #include <memory>
+#include <span>
 #include <string>
 
 class QTextEdit;
@@ -38,6 +39,8 @@ class ScriptReferencePanel : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  std::span<const ReferenceObject> Objects() const;
+
   MainWindow& frame_;
   const Language language_;
   std::unique_ptr<ObjectItems> items_;
