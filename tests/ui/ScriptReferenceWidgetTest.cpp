@@ -78,7 +78,10 @@ TEST_F(ScriptReferenceWidget, AClickDescribesTheRowOfItsOwnObjectAndADoubleClick
   auto* box = panel->findChild<QTextEdit*>("aspDescription");
   ASSERT_TRUE(tree && box);
   EXPECT_EQ(tree->topLevelItemCount(), 0);  // not visited yet
-  EXPECT_TRUE(box->toPlainText().startsWith("This ASP Tree lists the major ASP objects"));
+  EXPECT_EQ(box->toPlainText(),
+            "This ASP Tree lists the major ASP objects as well as their properties, methods and "
+            "events.  Click on an item for a description.  Double-click an item to insert it into "
+            "your document.");
 
   Visit("aspReference");
   ASSERT_EQ(tree->topLevelItemCount(), 7);

@@ -22,10 +22,11 @@ QString Q(const std::string& s) {
 
 const char* const kAspHint =
     "This ASP Tree lists the major ASP objects as well as their properties, methods and events.  "
-    "Click on an item for a description.";
+    "Click on an item for a description.  Double-click an item to insert it into your document.";
 const char* const kJsHint =
     "This JavaScript Tree lists the major JavaScript objects as well as their properties, methods "
-    "and events.  Click on an item for a description.";
+    "and events.  Click on an item for a description.  Double-click an item to insert it into your "
+    "document.";
 
 constexpr int kKeyRole = Qt::UserRole;
 
