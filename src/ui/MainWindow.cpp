@@ -41,6 +41,7 @@
 #include "ui/SciEdit.h"
 #include "ui/panels/FileListPanel.h"
 #include "ui/settings/DailyTipDialog.h"
+#include "ui/panels/ScriptReferencePanel.h"
 
 namespace tessarine {
 
@@ -97,14 +98,6 @@ const ButtonDef kToolsButtons[] = {
     {"FTP", "FTP"},
 };
 
-const char* const kAspHelp =
-    "This ASP Tree lists the major ASP objects as well as their properties, methods and events.  "
-    "Click on an item for a description.  Double-click an item to insert it into your document.";
-const char* const kJsHelp =
-    "This JavaScript Tree lists the major JavaScript objects as well as their properties, methods "
-    "and events.  Click on an item for a description.  Double-click an item to insert it into your "
-    "document.";
-
 }  // namespace
 
 MainWindow::MainWindow() : mdiArea_(new QMdiArea) {
@@ -155,16 +148,10 @@ void MainWindow::BuildPanels() {
   auto* files = new QLabel("File list");
   files->setObjectName("picSideBar0");
   files->setAlignment(Qt::AlignCenter);
-  auto makeRef = [](const char* name, const char* help) {
-    auto* description = new QTextEdit;
-    description->setObjectName(name);
-    description->setReadOnly(true);
-    description->setPlainText(help);
-    return description;
-  };
   tabStrip1_->addTab(files, "Files");
-  tabStrip1_->addTab(makeRef("rtfASPDescription", kAspHelp), "ASP");
-  tabStrip1_->addTab(makeRef("rtfJSDescription", kJsHelp), "JavaScript");
+  using Reference = ScriptReferencePanel::Language;
+  tabStrip1_->addTab(new ScriptReferencePanel(Reference::ASP, *this), "ASP");
+  tabStrip1_->addTab(new ScriptReferencePanel(Reference::JavaScript, *this), "JavaScript");
 
   hsplit_ = new QSplitter(Qt::Horizontal);
   hsplit_->setObjectName("Vsplitter");
