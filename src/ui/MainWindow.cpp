@@ -40,8 +40,8 @@
 #include "ui/KeyStatePanels.h"
 #include "ui/SciEdit.h"
 #include "ui/panels/FileListPanel.h"
-#include "ui/settings/DailyTipDialog.h"
 #include "ui/panels/ScriptReferencePanel.h"
+#include "ui/settings/DailyTipDialog.h"
 
 namespace tessarine {
 
