@@ -7,7 +7,7 @@ pkgs=(build-essential cmake ninja-build ccache
       libgtest-dev libbenchmark-dev
       tango-icon-theme libqt6svg6 pkg-config
       clang libclang-rt-14-dev
-      chromium python3)
+      chromium python3 linkchecker)
 missing=()
 for p in "${pkgs[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")
