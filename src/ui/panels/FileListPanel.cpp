@@ -142,7 +142,14 @@ FileListPanel::FileListPanel(Application& app, QWidget* parent)
   connect(folderTree_->selectionModel(), &QItemSelectionModel::currentChanged, this,
           [this](const QModelIndex& index) {
             const QString path = folders_->filePath(index);
-            if (!path.isEmpty() && path != folder_) FolderPicked(path);
+            if (path.isEmpty() || path == folder_) return;
+            // The tree moves on by itself when the shown folder is removed: say so, as a
+            // refresh would.
+            if (!folder_.isEmpty() && !path.startsWith(folder_)) {
+              if (const int error = FolderReadError(S(folder_)); error != 0)
+                ShowError(FolderErrorMessage(S(folder_), error));
+            }
+            FolderPicked(path);
           });
   drives_->onError = [this](const std::string& message) { ShowError(message); };
   connect(drives_, &DriveList::DriveChosen, this, [this](const QString& root) {
