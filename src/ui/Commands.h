@@ -20,6 +20,8 @@ void BuildSiteToolCommands(MainWindow& frame);     // log statistics, tidy, stri
 void BuildSettingsCommands(MainWindow& frame);     // preferences, menu systems, help
 void BuildEditTagCommands(MainWindow& frame);      // page properties, Edit Tag
 void BuildHelpCommands(MainWindow& frame);         // Help menu, F1, the start screen
+// The start screen, once the window is laid out and before the first document.
+void ShowStartScreenAtStart(MainWindow& frame);
 // Last: icons, toolbar style, view choices, the window list, About.
 void BuildViewCommands(MainWindow& frame);
 

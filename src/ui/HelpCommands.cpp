@@ -63,12 +63,13 @@ void BuildHelpCommands(MainWindow& frame) {
   }
   if (first) help->insertSeparator(first);
 
-  frame.OnSettingsLoaded([f] {
-    Application* app = f->App();
-    if (!app || !StartScreenWanted(app->store)) return;
-    StartScreenDialog screen(*app, f);
-    screen.exec();
-  });
+}
+
+void ShowStartScreenAtStart(MainWindow& frame) {
+  Application* app = frame.App();
+  if (!app || !StartScreenWanted(app->store)) return;
+  StartScreenDialog screen(*app, &frame);
+  screen.exec();
 }
 
 }  // namespace tessarine

@@ -18,6 +18,7 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QStyle>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTextEdit>
 #include <QTimer>
@@ -414,8 +415,10 @@ void MainWindow::Load(Application& app, const std::string& commandLine) {
   if (p.fillsScreen) showMaximized();
 
   const std::string listWidth = s.GetSetting("Window", "FileListWidth", "");
-  const int side =
-      listWidth.empty() ? 220 : std::max(50, static_cast<int>(Val(listWidth)) / kTwipsPerPixel);
+  // A first start gives the side panel room for all its tab captions.
+  const int side = listWidth.empty()
+                       ? std::max(320, tabStrip1_->tabBar()->sizeHint().width() + 8)
+                       : std::max(50, static_cast<int>(Val(listWidth)) / kTwipsPerPixel);
   if (app.settings.AlignFileListLeft) hsplit_->insertWidget(0, tabStrip1_);
   const int total = std::max(p.width, 400);
   hsplit_->setSizes(app.settings.AlignFileListLeft ? QList<int>{side, total - side}
@@ -442,6 +445,7 @@ void MainWindow::Load(Application& app, const std::string& commandLine) {
   for (const auto& f : onSettingsLoaded_) f();
 
   setWindowTitle("Tessarine 2002[*]");
+  ShowStartScreenAtStart(*this);
   ShowDailyTipAtStart(*this);
   OpenStartupDocuments(app, commandLine);
   UpdateMenusForDocumentCount();
