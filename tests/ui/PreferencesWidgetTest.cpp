@@ -200,6 +200,26 @@ TEST_F(PreferencesWidget, FavouriteUrlsStopAtFive) {
   EXPECT_EQ(app->settings.MenuSystem, "beginner");
 }
 
+// "Choose..." beside Custom sets the groups; OK writes them with the custom system.
+TEST_F(PreferencesWidget, CustomMenusAreChosenFromTheMenusPage) {
+  Start();
+  WithPreferences([&](QDialog* d) {
+    OnDialog([](QDialog* custom) {
+      EXPECT_EQ(custom->objectName(), "CustomMenuDialog");
+      Child<QCheckBox>(custom, "structureTagsCheck")->setChecked(true);
+      Child<QCheckBox>(custom, "tablesCheck")->setChecked(true);
+      Child<QPushButton>(custom, "okButton")->click();
+    });
+    Click(d, "customMenuButton");
+    EXPECT_TRUE(Child<QRadioButton>(d, "menuSystem_custom")->isChecked());
+    Click(d, "okButton");
+  });
+  EXPECT_EQ(store.GetSetting("Menu", "MenuSystem", ""), "custom");
+  EXPECT_EQ(store.GetSetting("Menu", "StructMenu", ""), "on");
+  EXPECT_EQ(store.GetSetting("Menu", "TablesMenu", ""), "on");
+  EXPECT_EQ(store.GetSetting("Menu", "FormsMenu", ""), "off");
+}
+
 TEST_F(PreferencesWidget, ABadNumberKeepsTheDialogOpenAtItsField) {
   Start();
   WithPreferences([&](QDialog* d) {
