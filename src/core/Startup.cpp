@@ -110,10 +110,15 @@ std::string PrepareApplicationFolder(const std::string& installed) {
     for (auto it = fs::recursive_directory_iterator(installed, ec);
          !ec && it != fs::recursive_directory_iterator(); it.increment(ec)) {
       const fs::path target = folder / fs::relative(it->path(), installed, ec);
-      if (it->is_directory(ec))
+      if (it->is_directory(ec)) {
         fs::create_directories(target, ec);
-      else if (!fs::exists(target, ec))
+      } else if (!fs::exists(target, ec)) {
         fs::copy_file(it->path(), target, ec);
+      } else if (*fs::relative(it->path(), installed, ec).begin() == "help") {
+        // The help pages are the program's own, not the user's: a newer release replaces
+        // them, where templates and other seeded files stay as the user left them.
+        fs::copy_file(it->path(), target, fs::copy_options::update_existing, ec);
+      }
     }
   }
   return folder.string();

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+
 #include "core/Startup.h"
 #include "core/Styles.h"
 #include "core/TestApp.h"
@@ -9,6 +13,7 @@
 namespace tessarine {
 namespace {
 
+using testing::ReadAll;
 using testing::TempDir;
 using testing::TestApp;
 using testing::WriteAll;
@@ -88,6 +93,30 @@ TEST(FirstRun, RegistersOnceAndRemembersTheProgramFolder) {
   t.store.SaveSetting("Miscellaneous", "FirstRun", "YES");
   EXPECT_TRUE(FirstRunStep(t.app, CountRegistration));
   EXPECT_EQ(registrations, 2);
+}
+
+// Seeded files the user may have changed stay; the shipped help pages follow a newer release.
+TEST(ApplicationFolder, KeepsTheUsersFilesAndRefreshesTheHelpPages) {
+  TempDir shipped, home;
+  std::filesystem::create_directories(shipped.path() / "help");
+  std::filesystem::create_directories(shipped.path() / "templates");
+  WriteAll(shipped / "help/index.html", "old help");
+  WriteAll(shipped / "templates/page.htm", "shipped template");
+  ::setenv("TESSARINE_HOME", home.path().c_str(), 1);
+  EXPECT_EQ(PrepareApplicationFolder(shipped.path().string()), home.path().string());
+  EXPECT_EQ(ReadAll(home / "help/index.html"), "old help");
+
+  WriteAll(home / "templates/page.htm", "the user's template");
+  WriteAll(shipped / "templates/page.htm", "newer template");
+  WriteAll(shipped / "help/index.html", "new help");
+  const auto later =
+      std::filesystem::last_write_time(home / "help/index.html") + std::chrono::hours(1);
+  std::filesystem::last_write_time(shipped / "help/index.html", later);
+  std::filesystem::last_write_time(shipped / "templates/page.htm", later);
+  PrepareApplicationFolder(shipped.path().string());
+  ::unsetenv("TESSARINE_HOME");
+  EXPECT_EQ(ReadAll(home / "help/index.html"), "new help");
+  EXPECT_EQ(ReadAll(home / "templates/page.htm"), "the user's template");
 }
 
 struct StartupDocuments : ::testing::Test {
