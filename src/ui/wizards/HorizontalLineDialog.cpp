@@ -27,7 +27,7 @@ HorizontalLineDialog::HorizontalLineDialog(Application& app, QWidget* parent)
   thickness_ = new QLineEdit("1");
   thickness_->setObjectName("thickness");
   auto* upDown = new QSpinBox;
-  upDown->setObjectName("UpDown1");
+  upDown->setObjectName("thicknessArrows");
   upDown->setRange(0, 999);
   upDown->setValue(1);
   upDown->setFixedWidth(18);  // the arrows alone: thickness shows the number

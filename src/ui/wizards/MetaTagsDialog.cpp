@@ -39,7 +39,7 @@ MetaTagsDialog::MetaTagsDialog(Application& app, QWidget* parent)
   refreshSeconds_ = new QLineEdit;
   refreshSeconds_->setObjectName("refreshSeconds");
   auto* upDown = new QSpinBox;
-  upDown->setObjectName("UpDown1");
+  upDown->setObjectName("refreshSecondsArrows");
   upDown->setRange(0, 3600);
   upDown->setFixedWidth(18);
   auto* seconds = new QHBoxLayout;
