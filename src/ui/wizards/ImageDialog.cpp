@@ -119,12 +119,8 @@ QWidget* ImageDialog::SelectPage() {
   auto* page = new QWidget;
   auto* v = new QVBoxLayout(page);
   v->addWidget(new QLabel("Enter filename of image:"));
-  auto* row = new QHBoxLayout;
   imageSource_ = NamedEdit("imageSource");
-  auto* browse = NamedButton("browseImage", "Browse for image...");
-  row->addWidget(imageSource_, 1);
-  row->addWidget(browse);
-  v->addLayout(row);
+  auto* browse = ImageNameRow(v, imageSource_, "browseImage");
   v->addWidget(new QLabel("Or select the image from the file list below:"));
   folderLabel_ = new QLabel;
   folderLabel_->setObjectName("folderLabel");
@@ -200,12 +196,8 @@ QWidget* ImageDialog::LayoutPage() {
   altText_ = NamedEdit("altText");
   v->addWidget(altText_);
   v->addWidget(new QLabel("Alternative low-resolution image:"));
-  auto* row = new QHBoxLayout;
   lowResSource_ = NamedEdit("lowResSource");
-  auto* browse = NamedButton("browseLowRes", "Browse for image...");
-  row->addWidget(lowResSource_, 1);
-  row->addWidget(browse);
-  v->addLayout(row);
+  auto* browse = ImageNameRow(v, lowResSource_, "browseLowRes");
   connect(alignment_, &QComboBox::currentIndexChanged, this, &ImageDialog::ChooseAlignment);
   connect(browse, &QPushButton::clicked, this, [this] {
     const std::string link = BrowseRelativeFile(app_);
@@ -298,12 +290,8 @@ QWidget* ImageDialog::EffectsPage() {
   auto* page = new QWidget;
   auto* v = new QVBoxLayout(page);
   v->addWidget(new QLabel("MouseOver Image filename:"));
-  auto* row = new QHBoxLayout;
   mouseOverImage_ = NamedEdit("mouseOverImage");
-  auto* browse = NamedButton("browseMouseOver", "Browse for image...");
-  row->addWidget(mouseOverImage_, 1);
-  row->addWidget(browse);
-  v->addLayout(row);
+  auto* browse = ImageNameRow(v, mouseOverImage_, "browseMouseOver");
   auto* note =
       new QLabel("The MouseOver image replaces the picture while the mouse pointer is over it.");
   note->setWordWrap(true);

@@ -157,12 +157,8 @@ ImageMapDialog::ImageMapDialog(Application& app, QWidget* parent)
   intro->setWordWrap(true);
   v->addWidget(intro);
   v->addWidget(new QLabel("Select image:"));
-  auto* row = new QHBoxLayout;
   imageFile_ = NamedEdit("imageFile");
-  auto* browse = NamedButton("browseImage", "Browse for image...");
-  row->addWidget(imageFile_, 1);
-  row->addWidget(browse);
-  v->addLayout(row);
+  auto* browse = ImageNameRow(v, imageFile_, "browseImage");
   v->addWidget(new QLabel("Image map name:"));
   mapName_ = NamedEdit("mapName");
   v->addWidget(mapName_);

@@ -1,6 +1,7 @@
 #include "ui/wizards/LinkDialogParts.h"
 
 #include <QComboBox>
+#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -20,6 +21,15 @@ QPushButton* NamedButton(const char* name, const QString& caption) {
   b->setObjectName(name);
   b->setAutoDefault(false);
   return b;
+}
+
+QPushButton* ImageNameRow(QBoxLayout* layout, QLineEdit* name, const char* buttonName) {
+  auto* row = new QHBoxLayout;
+  auto* browse = NamedButton(buttonName, "Browse for image...");
+  row->addWidget(name, 1);
+  row->addWidget(browse);
+  layout->addLayout(row);
+  return browse;
 }
 
 QComboBox* NamedCombo(const char* name, bool editable) {
