@@ -1,6 +1,8 @@
 #include "core/TextServices.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 #include "core/Application.h"
 #include "core/Styles.h"
@@ -16,10 +18,29 @@ std::string LCase(std::string_view text) {
 }
 
 std::string UCase(std::string_view text) {
-  std::string out(text);
-  for (char& c : out)
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+  std::string out(text.size(), '\0');
+  UpperCaseInto(text.data(), text.size(), out.data());
   return out;
+}
+
+void UpperCaseInto(const char* from, std::size_t size, char* to) {
+  constexpr std::uint64_t kOnes = 0x0101010101010101ull;
+  constexpr std::uint64_t kHigh = 0x8080808080808080ull;
+  std::size_t i = 0;
+  for (; i + 8 <= size; i += 8) {
+    std::uint64_t x;
+    std::memcpy(&x, from + i, 8);
+    // Each byte's top bit: its low seven bits reach 'a', pass 'z', or it is no ASCII byte.
+    const std::uint64_t low7 = x & ~kHigh;
+    const std::uint64_t fromA = low7 + (0x80 - 'a') * kOnes;
+    const std::uint64_t pastZ = low7 + (0x80 - 'z' - 1) * kOnes;
+    x ^= (fromA & ~pastZ & ~x & kHigh) >> 2;
+    std::memcpy(to + i, &x, 8);
+  }
+  for (; i < size; ++i) {
+    const char c = from[i];
+    to[i] = (c >= 'a' && c <= 'z') ? static_cast<char>(c - 32) : c;
+  }
 }
 
 long long InStrNoCase(long long start, std::string_view text, std::string_view needle) {

@@ -2,6 +2,7 @@
 // The text services: every command and wizard writes to the active document through
 // these. They obey the tag case and do not recolour.
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,8 @@ void InsertInHeadAndBody(Application& app, std::string& headText, std::string& b
 // ASCII lower case: bytes of other characters are left alone.
 std::string LCase(std::string_view text);
 std::string UCase(std::string_view text);
+// UCase into `to` (which may be `from`), eight bytes at a step: pages are upper-cased whole.
+void UpperCaseInto(const char* from, std::size_t size, char* to);
 // One-based position of `needle` at or after one-based `start`, ignoring ASCII case; 0 when
 // absent.
 long long InStrNoCase(long long start, std::string_view text, std::string_view needle);

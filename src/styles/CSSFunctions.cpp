@@ -1,6 +1,7 @@
 #include "styles/CSSFunctions.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "core/Application.h"
 #include "core/TextServices.h"
@@ -35,14 +36,65 @@ std::string RemoveLineBreaksAndTabs(std::string_view s) {
   return out;
 }
 
-std::string ReplaceAll(std::string_view s, std::string_view from, std::string_view to) {
-  std::string out;
-  out.reserve(s.size());
-  std::size_t at = 0;
-  for (std::size_t hit; (hit = s.find(from, at)) != npos; at = hit + from.size())
-    out.append(s.substr(at, hit - at)).append(to);
-  out.append(s.substr(at));
-  return out;
+// The one-line form of declarations added to `out`: tabs and line breaks out, and the first
+// blank behind each semicolon dropped; `afterSemicolon` follows every semicolon. One pass
+// over a buffer sized for the worst case: this runs over every rule of a sheet, both ways.
+void AppendOneLine(std::string& out, std::string_view s, std::string_view afterSemicolon) {
+  const std::size_t kept = out.size();
+  const auto semicolons = static_cast<std::size_t>(std::count(s.begin(), s.end(), ';'));
+  out.resize(kept + s.size() + semicolons * afterSemicolon.size());
+  char* to = out.data() + kept;
+  bool dropBlank = false;
+  for (const char c : s) {
+    switch (c) {
+      case '\t':
+      case '\r':
+      case '\n':
+        continue;
+      case ';':
+        *to++ = ';';
+        for (const char a : afterSemicolon) *to++ = a;
+        dropBlank = true;
+        continue;
+      case ' ':
+        if (dropBlank) {
+          dropBlank = false;
+          continue;
+        }
+        break;
+      default:
+        break;
+    }
+    *to++ = c;
+    dropBlank = false;
+  }
+  out.resize(static_cast<std::size_t>(to - out.data()));
+}
+
+// The first place at or after `from` where `upper` (upper case, first byte not a letter)
+// stands in `text` in any case; the text is not copied, as a page can be large.
+std::size_t FindNoCase(std::string_view text, std::string_view upper, std::size_t from = 0) {
+  while (from + upper.size() <= text.size()) {
+    const void* hit = std::memchr(text.data() + from, upper[0], text.size() - from);
+    if (!hit) return npos;
+    const std::size_t at = static_cast<std::size_t>(static_cast<const char*>(hit) - text.data());
+    if (at + upper.size() > text.size()) return npos;
+    std::size_t i = 1;
+    while (i < upper.size()) {
+      char c = text[at + i];
+      if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 32);
+      if (c != upper[i]) break;
+      ++i;
+    }
+    if (i == upper.size()) return at;
+    from = at + 1;
+  }
+  return npos;
+}
+
+// Tabs and line breaks removed, then the blanks at both ends.
+std::string SelectorText(std::string_view s) {
+  return std::string(TrimBlanks(RemoveLineBreaksAndTabs(s)));
 }
 
 }  // namespace
@@ -65,11 +117,10 @@ bool IsBlankGap(std::string_view gap) {
 
 std::string DocumentStyleSheet(std::string_view text, std::string_view caption) {
   if (caption.find(".css") != npos) return std::string(text);
-  const std::string upper = UCase(text);
-  const std::size_t style = upper.find("<STYLE");
+  const std::size_t style = FindNoCase(text, "<STYLE");
   if (style == npos) return {};
-  const std::size_t open = upper.find('>', style);
-  const std::size_t close = upper.find("</STYLE", style);
+  const std::size_t open = text.find('>', style);
+  const std::size_t close = FindNoCase(text, "</STYLE", style);
   if (open == npos || close == npos || close <= open) return {};
   return std::string(text.substr(open + 1, close - open - 1));
 }
@@ -80,8 +131,11 @@ std::string GetDocumentStyleSheet(Application& app) {
   return DocumentStyleSheet(w->Edit().View(), w->Caption());
 }
 
-std::vector<StyleRule> ScanStyleRules(std::string_view sheet) {
-  std::vector<StyleRule> rules;
+namespace {
+
+// Calls `rule(selector stretch, declarations)` for every closed rule, in order.
+template <typename Visit>
+void ForEachStyleRule(std::string_view sheet, Visit&& rule) {
   std::size_t previousEnd = 0;  // where the next selector begins
   std::size_t start = 0;
   while (start < sheet.size()) {
@@ -89,25 +143,32 @@ std::vector<StyleRule> ScanStyleRules(std::string_view sheet) {
     if (open == npos) break;
     const std::size_t close = sheet.find('}', open + 1);
     if (close == npos) break;
-    StyleRule rule;
-    rule.selector = std::string(
-        TrimBlanks(RemoveLineBreaksAndTabs(sheet.substr(previousEnd, open - previousEnd))));
-    rule.declarations = std::string(sheet.substr(open + 1, close - open - 1));
-    rules.push_back(std::move(rule));
+    rule(sheet.substr(previousEnd, open - previousEnd), sheet.substr(open + 1, close - open - 1));
     previousEnd = close + 1;
     // The character just behind the "}" is never looked at for the next "{".
     start = close + 2;
   }
+}
+
+}  // namespace
+
+std::vector<StyleRule> ScanStyleRules(std::string_view sheet) {
+  std::vector<StyleRule> rules;
+  ForEachStyleRule(sheet, [&rules](std::string_view selector, std::string_view declarations) {
+    rules.push_back({SelectorText(selector), std::string(declarations)});
+  });
   return rules;
 }
 
 std::vector<std::string> LoadStyleRules(StyleState& state, std::string_view sheet) {
   std::vector<std::string> selectors;
-  for (StyleRule& rule : ScanStyleRules(sheet)) {
-    FormatStyleDefinition(rule.declarations, kStyleOneLine);
-    ParseStyleDefinition(state, rule.selector, rule.declarations);
-    selectors.push_back(std::move(rule.selector));
-  }
+  ForEachStyleRule(sheet, [&](std::string_view selectorText, std::string_view declarations) {
+    std::string oneLine;
+    AppendOneLine(oneLine, declarations, {});
+    std::string selector = SelectorText(selectorText);
+    ParseStyleDefinition(state, selector, std::move(oneLine));
+    selectors.push_back(std::move(selector));
+  });
   return selectors;
 }
 
@@ -157,16 +218,20 @@ void SplitValueAndUnit(std::string_view value, std::string& unit, std::string& n
 
 void ParseStyleDefinition(StyleState& state, const std::string& selector,
                           const std::string& declarations) {
-  CSSstyle fresh;
-  fresh.StyleName = selector;
-  fresh.Definition = declarations;
-  if (auto added = state.Styles.Add(std::move(fresh), selector))
-    state.CurrentStyle = std::move(added);
-  else
-    state.CurrentStyle = std::make_shared<CSSstyle>();  // filled, then lost with the dialog
-  CSSstyle& s = *state.CurrentStyle;
+  ParseStyleDefinition(state, selector, std::string(declarations));
+}
 
-  std::string_view rest = declarations;
+void ParseStyleDefinition(StyleState& state, const std::string& selector,
+                          std::string&& declarations) {
+  auto made = std::make_shared<CSSstyle>();
+  made->StyleName = selector;
+  made->Definition = std::move(declarations);
+  // A style that is not taken is filled, then lost with the dialog, without name or text.
+  state.CurrentStyle = state.Styles.Add(made, selector) ? made : std::make_shared<CSSstyle>();
+  CSSstyle& s = *state.CurrentStyle;
+  const std::string_view text = made->Definition;
+
+  std::string_view rest = text;
   while (true) {
     const std::size_t semicolon = rest.find(';');
     const std::string_view piece = TrimBlanks(rest.substr(0, semicolon));
@@ -240,16 +305,24 @@ void ParseStyleDefinition(StyleState& state, const std::string& selector,
   }
 }
 
-void FormatStyleDefinition(std::string& declarations, int mode) {
-  std::string d = ReplaceAll(RemoveLineBreaksAndTabs(declarations), "; ", ";");
+std::string FormattedStyleDefinition(std::string_view declarations, int mode) {
+  std::string d;
   if (mode == kStyleForDisplay) {
-    d = "\r\n" + ReplaceAll("    " + d, ";", ";\r\n    ");
+    d = "\r\n    ";
+    AppendOneLine(d, declarations, "\r\n    ");
   } else if (mode == kStyleForDocument) {
-    d = ReplaceAll("\t" + d, ";", ";\r\n\t");
+    d = "\t";
+    AppendOneLine(d, declarations, "\r\n\t");
     // Drops the last line break and tab; too short a text is left as it is.
     if (d.size() >= 3) d.resize(d.size() - 3);
+  } else {
+    AppendOneLine(d, declarations, {});
   }
-  declarations = std::move(d);
+  return d;
+}
+
+void FormatStyleDefinition(std::string& declarations, int mode) {
+  declarations = FormattedStyleDefinition(declarations, mode);
 }
 
 namespace {

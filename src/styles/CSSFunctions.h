@@ -43,6 +43,8 @@ std::string FindStyleDefinition(std::string_view selector, std::string_view shee
 // belongs to no collection.
 void ParseStyleDefinition(StyleState& state, const std::string& selector,
                           const std::string& declarations);
+void ParseStyleDefinition(StyleState& state, const std::string& selector,
+                          std::string&& declarations);
 
 // Cuts a measure such as "12pt" into number and unit (see the tests for the odd cases).
 void SplitValueAndUnit(std::string_view value, std::string& unit, std::string& number);
@@ -53,6 +55,7 @@ enum StyleLayout : int {
   kStyleForDocument = 2,  // one declaration a line, indented by a tab
 };
 void FormatStyleDefinition(std::string& declarations, int mode);
+std::string FormattedStyleDefinition(std::string_view declarations, int mode);
 
 struct TextEdit {
   std::int64_t start = 0;

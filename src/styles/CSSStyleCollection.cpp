@@ -5,8 +5,11 @@
 namespace tessarine {
 
 CSSStyleCollection::StylePtr CSSStyleCollection::Add(CSSstyle style, const std::string& key) {
+  return Add(std::make_shared<CSSstyle>(std::move(style)), key);
+}
+
+CSSStyleCollection::StylePtr CSSStyleCollection::Add(StylePtr made, const std::string& key) {
   std::string folded = LCase(key);
-  auto made = std::make_shared<CSSstyle>(std::move(style));
   if (!folded.empty()) {
     if (!byKey_.emplace(folded, made).second) return nullptr;
   }

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "styles/CSSstyle.h"
@@ -21,6 +22,7 @@ class CSSStyleCollection {
   // Inserts the style at the end, under `key` unless it is empty, and returns it. A key
   // that is already there makes the insertion fail: nothing is added and null comes back.
   StylePtr Add(CSSstyle style, const std::string& key);
+  StylePtr Add(StylePtr style, const std::string& key);
   // The style under a key, or at a 1-based index; null when there is none.
   StylePtr Item(std::string_view key) const;
   StylePtr Item(std::size_t index) const;

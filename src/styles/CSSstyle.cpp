@@ -15,6 +15,7 @@ std::string DecorationText(const std::string& textDecoration) {
 
 void CSSstyle::GetStyleDefinition() {
   std::string d;
+  d.reserve(160 + ExtraAttributes.size());
   auto value = [&d](const char* name, const std::string& v) {
     if (!v.empty()) d.append(name).append(":").append(v).append(";");
   };

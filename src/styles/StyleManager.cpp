@@ -46,9 +46,8 @@ std::vector<StyleWrite> SaveStylesWrites(const CSSStyleCollection& styles,
   for (const CSSstyle& s : styles) {
     if (s.Status != kStyleChanged && s.Status != kStyleDeleted) continue;
     if (s.Status == kStyleChanged) embedded = !EndsWith(caption, ".css");
-    std::string declarations = s.Definition;
-    FormatStyleDefinition(declarations, kStyleForDocument);
-    writes.push_back({s.StyleName, std::move(declarations), embedded, s.Status == kStyleDeleted});
+    writes.push_back({s.StyleName, FormattedStyleDefinition(s.Definition, kStyleForDocument),
+                      embedded, s.Status == kStyleDeleted});
   }
   return writes;
 }

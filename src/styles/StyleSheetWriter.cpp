@@ -2,8 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <list>
-#include <unordered_map>
+#include <cstring>
 
 #include "core/TextServices.h"
 #include "styles/CSSFunctions.h"
@@ -14,25 +13,73 @@ namespace {
 
 constexpr auto npos = std::string::npos;
 
+char Upper(char c) { return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 32) : c; }
+
+// `text` equals `upper` (upper case) when upper-cased.
+bool EqualsUpper(std::string_view text, std::string_view upper) {
+  if (text.size() != upper.size()) return false;
+  for (std::size_t i = 0; i < text.size(); ++i)
+    if (Upper(text[i]) != upper[i]) return false;
+  return true;
+}
+
+// UCase(text).find(upper), without the upper-cased copy. Candidates for the first byte
+// are found with memchr, in both cases for a letter.
+std::size_t FindUpper(std::string_view text, std::string_view upper) {
+  if (upper.empty()) return 0;
+  if (upper.size() > text.size()) return npos;
+  const char first = upper[0];
+  const char other = (first >= 'A' && first <= 'Z') ? static_cast<char>(first + 32) : first;
+  const std::string_view rest = upper.substr(1);
+  const char* const begin = text.data();
+  const char* const last = begin + (text.size() - upper.size());  // the last place to try
+  auto next = [last](const char* from, char c) {
+    const void* hit = from <= last ? std::memchr(from, c, static_cast<std::size_t>(last - from) + 1)
+                                   : nullptr;
+    return hit ? static_cast<const char*>(hit) : nullptr;
+  };
+  const char* a = next(begin, first);
+  const char* b = other == first ? nullptr : next(begin, other);
+  while (a || b) {
+    const char* at = !b || (a && a < b) ? a : b;
+    if (EqualsUpper(std::string_view(at + 1, rest.size()), rest))
+      return static_cast<std::size_t>(at - begin);
+    if (at == a) a = next(a + 1, first); else b = next(b + 1, other);
+  }
+  return npos;
+}
+
 // A stretch of the text from one "{" up to the next (the first stretch from the start).
 // A rule is found in the stretch that ends with its selector and blanks: the search for a
 // selector restarts at every "{", so only the first match inside a stretch counts.
-struct Piece;
-using PieceList = std::list<Piece>;
-using PieceIt = PieceList::iterator;
-
+// Stretches are ranges of the text or of a growing store of what the writes added, linked
+// in text order; a replaced stretch is left dead in place and never reused.
 struct Piece {
-  std::string text;
-  std::string upper;
+  std::size_t at = 0;
+  std::size_t size = 0;
+  bool added = false;  // a range of the store, not of the text
   std::uint64_t order = 0;  // grows along the text
-  std::vector<int> holds;   // selectors whose rule this stretch ends with
-  PieceIt self;
+  int prev = -1;
+  int next = -1;
+  bool alive = true;
 };
 
 struct Place {
-  PieceIt piece;
+  int piece = -1;
   std::size_t offset = 0;
 };
+
+// FNV-1a over the bytes from the last to the first, so that the selectors ending at one
+// place are hashed in one walk backwards.
+constexpr std::uint64_t kHashStart = 14695981039346656037ull;
+std::uint64_t HashStep(std::uint64_t h, char c) {
+  return (h ^ static_cast<unsigned char>(c)) * 1099511628211ull;
+}
+std::uint64_t BackwardHash(std::string_view s) {
+  std::uint64_t h = kHashStart;
+  for (std::size_t i = s.size(); i > 0; --i) h = HashStep(h, s[i - 1]);
+  return h;
+}
 
 class Writer {
  public:
@@ -43,18 +90,21 @@ class Writer {
         writeIds_.push_back(-1);
         continue;
       }
-      const auto [at, added] = idOf_.emplace(upper, static_cast<int>(selectors_.size()));
-      writeIds_.push_back(at->second);
-      if (!added) continue;
-      selectors_.push_back(upper);
-      const char last = upper.back();
-      if (last == ' ' || last == '\t' || last == '\r' || last == '\n') spacedEnds_ = true;
+      const std::uint64_t hash = BackwardHash(upper);
+      int id = Lookup(upper, hash);
+      if (id < 0) {
+        id = static_cast<int>(selectors_.size());
+        const char last = upper.back();
+        if (last == ' ' || last == '\t' || last == '\r' || last == '\n') spacedEnds_ = true;
+        const auto place = std::lower_bound(lengths_.begin(), lengths_.end(), upper.size());
+        if (place == lengths_.end() || *place != upper.size()) lengths_.insert(place, upper.size());
+        selectors_.push_back(std::move(upper));
+        Insert(id, hash);
+      }
+      writeIds_.push_back(id);
+      reserve_ += w.selector.size() + w.declarations.size() + 16;
     }
-    holders_.resize(selectors_.size());
-    for (std::size_t id = 0; id < selectors_.size(); ++id)
-      reversed_.emplace_back(std::string(selectors_[id].rbegin(), selectors_[id].rend()),
-                             static_cast<int>(id));
-    std::sort(reversed_.begin(), reversed_.end());
+    firstHolder_.assign(selectors_.size(), -1);
     Build(text);
   }
 
@@ -66,35 +116,40 @@ class Writer {
       return;
     }
     const std::string& upper = selectors_[static_cast<std::size_t>(id)];
-    const std::string body = "{\r\n" + w.declarations + "\r\n}";
-    Piece* holder = Holder(id);
-    if (!holder) {
-      InsertAtInsertionPoint(w, body);
+    const int k = Holder(id);
+    if (k < 0) {
+      InsertAtInsertionPoint(w);
       return;
     }
-    const PieceIt k = holder->self;
-    const PieceIt open = std::next(k);
-    const std::size_t match = k->upper.find(upper);
+    const int open = pieces_[k].next;
+    const std::size_t match = FindUpper(TextOf(k), upper);
     Place close;
     const bool closed = FindClose(k, match, close);
+    scratch_.clear();
     if (w.remove) {
       if (!closed) return;
-      Replace(k, close.piece,
-              k->text.substr(0, match) + close.piece->text.substr(close.offset + 1));
-    } else if (!closed || close.piece == k) {
+      scratch_.append(TextOf(k).substr(0, match));
+      scratch_.append(TextOf(close.piece).substr(close.offset + 1));
+      Replace(k, close.piece);
+      return;
+    }
+    AppendBody(w);
+    if (!closed || close.piece == k) {
       // Nothing selected: the new body goes in before the old "{".
-      Replace(open, open, body + open->text);
+      scratch_.append(TextOf(open));
+      Replace(open, open);
     } else {
-      Replace(open, close.piece, body + close.piece->text.substr(close.offset + 1));
+      scratch_.append(TextOf(close.piece).substr(close.offset + 1));
+      Replace(open, close.piece);
     }
   }
 
   std::string Text() const {
     std::size_t size = 0;
-    for (const Piece& p : pieces_) size += p.text.size();
+    for (int p = head_; p >= 0; p = pieces_[p].next) size += pieces_[p].size;
     std::string text;
     text.reserve(size);
-    for (const Piece& p : pieces_) text += p.text;
+    for (int p = head_; p >= 0; p = pieces_[p].next) text += TextOf(p);
     return text;
   }
 
@@ -105,7 +160,7 @@ class Writer {
     bool hasTag = false;
     Place at;
     // The last piece the answer depends on; an edit there or before it asks again.
-    PieceIt guard;
+    int guard = -1;
     bool guardsAll = false;
   };
 
@@ -114,43 +169,102 @@ class Writer {
     return !upper.empty() && upper.find('{') == npos;
   }
 
+  std::string_view TextOf(int p) const {
+    const Piece& piece = pieces_[p];
+    return (piece.added ? std::string_view(added_) : text_).substr(piece.at, piece.size);
+  }
+
+  // Open addressing over selector ids, keyed by the backward hash. Each slot keeps the
+  // hash's top half too, so that most misses never touch the selector itself.
+  void Insert(int id, std::uint64_t hash) {
+    if (selectors_.size() * 2 > table_.size()) {
+      std::vector<Slot> old;
+      old.swap(table_);
+      table_.assign(std::max<std::size_t>(64, old.size() * 2), Slot{});
+      for (const Slot& held : old)
+        if (held.id >= 0) PutInTable(held.id, BackwardHash(selectors_[held.id]));
+    }
+    PutInTable(id, hash);
+  }
+  void PutInTable(int id, std::uint64_t hash) {
+    const std::size_t mask = table_.size() - 1;
+    std::size_t slot = hash & mask;
+    while (table_[slot].id >= 0) slot = (slot + 1) & mask;
+    table_[slot] = {id, static_cast<std::uint32_t>(hash >> 32)};
+  }
+  // The selector that `text` is in any case.
+  int Lookup(std::string_view text, std::uint64_t hash) const {
+    if (table_.empty()) return -1;
+    const std::size_t mask = table_.size() - 1;
+    const auto check = static_cast<std::uint32_t>(hash >> 32);
+    for (std::size_t slot = hash & mask; table_[slot].id >= 0; slot = (slot + 1) & mask)
+      if (table_[slot].check == check && EqualsUpper(text, selectors_[table_[slot].id]))
+        return table_[slot].id;
+    return -1;
+  }
+
   void Build(std::string_view text) {
     pieces_.clear();
-    for (auto& h : holders_) h.clear();
+    holderEntries_.clear();
+    std::fill(firstHolder_.begin(), firstHolder_.end(), -1);
     insertion_.known = false;
-    std::uint64_t order = 0;
-    for (std::string& t : Split(text, true)) {
-      Piece& p = pieces_.emplace_back();
-      p.text = std::move(t);
-      p.upper = UCase(p.text);
-      p.order = order += kGap;
-      p.self = std::prev(pieces_.end());
-    }
-    for (Piece& p : pieces_) Index(p);
+    text_ = text;
+    added_.clear();
+    added_.reserve(reserve_);
+    pieces_.reserve(CountParts(text, true) * 2);
+    head_ = tail_ = -1;
+    const int first = AddPieces(false, 0, text.size(), true, -1, -1, 0, kGap);
+    for (int p = first; p >= 0; p = pieces_[p].next) Index(p);
   }
 
-  // Cut at every "{"; all pieces but maybe the first of the text begin with one.
-  static std::vector<std::string> Split(std::string_view text, bool first) {
-    std::vector<std::string> out;
+  // Links the stretches of store range [at, at + size), cut at every "{" (the first one is
+  // not looked at unless `first`), between `before` and `after`, numbered from `low` by
+  // `step`; returns the first one.
+  int AddPieces(bool added, std::size_t at, std::size_t size, bool first, int before, int after,
+                std::uint64_t low, std::uint64_t step) {
+    const std::string_view range = (added ? std::string_view(added_) : text_).substr(at, size);
+    int firstNew = -1;
+    int prev = before;
+    std::uint64_t order = low;
     std::size_t from = 0;
-    std::size_t at = text.find('{', first ? 0 : 1);
-    while (at != npos) {
-      out.emplace_back(text.substr(from, at - from));
-      from = at;
-      at = text.find('{', at + 1);
+    std::size_t brace = range.find('{', first ? 0 : 1);
+    while (true) {
+      const std::size_t to = brace == npos ? range.size() : brace;
+      const int p = static_cast<int>(pieces_.size());
+      Piece& piece = pieces_.emplace_back();
+      piece.added = added;
+      piece.at = at + from;
+      piece.size = to - from;
+      piece.order = order += step;
+      piece.prev = prev;
+      if (prev >= 0) pieces_[prev].next = p; else head_ = p;
+      if (firstNew < 0) firstNew = p;
+      prev = p;
+      if (brace == npos) break;
+      from = brace;
+      brace = range.find('{', brace + 1);
     }
-    out.emplace_back(text.substr(from));
-    return out;
+    pieces_[prev].next = after;
+    if (after >= 0) pieces_[after].prev = prev; else tail_ = prev;
+    return firstNew;
   }
 
-  void Index(Piece& p) {
-    p.holds.clear();
-    if (std::next(p.self) == pieces_.end()) return;  // no "{" follows
-    const std::string& u = p.upper;
-    // Ends of a selector followed by a blank gap up to the "{", found walking back.
-    std::vector<std::size_t> ends{u.size()};
+  static std::size_t CountParts(std::string_view text, bool first) {
+    std::size_t parts = 1;
+    for (std::size_t at = text.find('{', first ? 0 : 1); at != npos; at = text.find('{', at + 1))
+      ++parts;
+    return parts;
+  }
+
+  void Index(int p) {
+    if (pieces_[p].next < 0) return;  // no "{" follows
+    const std::string_view u = TextOf(p);
+    // Ends of a selector followed by a blank gap up to the "{", found walking back; only
+    // the furthest back matters unless a selector ends in white space.
+    if (spacedEnds_) ends_.assign(1, u.size());
     bool wantCr = false;
     std::size_t i = u.size();
+    std::size_t lastEnd = i;
     while (i > 0) {
       const char c = u[i - 1];
       if (c == ' ' || c == '\t') {
@@ -162,119 +276,112 @@ class Writer {
         break;
       }
       --i;
-      if (!wantCr) ends.push_back(i);
+      if (wantCr) continue;
+      lastEnd = i;
+      if (spacedEnds_) ends_.push_back(i);
     }
-    if (!spacedEnds_) ends.assign(1, ends.back());
-    for (std::size_t end : ends) Candidates(p, end);
+    if (!spacedEnds_) {
+      Candidates(p, u, lastEnd);
+      return;
+    }
+    for (std::size_t end : ends_) Candidates(p, u, end);
   }
 
-  // The selectors that end at `end`: a walk down the sorted reversed selectors.
-  void Candidates(Piece& p, std::size_t end) {
-    const std::string& u = p.upper;
-    std::size_t lo = 0, hi = reversed_.size();
-    for (std::size_t depth = 0; lo < hi; ++depth) {
-      while (lo < hi && reversed_[lo].first.size() == depth) {
-        const int id = reversed_[lo++].second;
-        if (u.find(selectors_[id]) == end - depth) {  // the first match in the stretch
-          p.holds.push_back(id);
-          holders_[id].push_back(&p);
-        }
+  // The selectors that end at `end` and are the first match in the stretch.
+  void Candidates(int p, std::string_view t, std::size_t end) {
+    std::uint64_t h = kHashStart;
+    std::size_t hashed = 0;
+    for (std::size_t length : lengths_) {
+      if (length > end) break;
+      while (hashed < length) h = HashStep(h, Upper(t[end - 1 - hashed++]));
+      const int id = Lookup(t.substr(end - length, length), h);
+      if (id >= 0 && FindUpper(t, selectors_[id]) == end - length) {
+        holderEntries_.push_back({p, firstHolder_[id]});
+        firstHolder_[id] = static_cast<int>(holderEntries_.size() - 1);
       }
-      if (depth >= end || lo >= hi) break;
-      const auto c = static_cast<unsigned char>(u[end - 1 - depth]);
-      auto first = reversed_.begin() + static_cast<std::ptrdiff_t>(lo);
-      auto last = reversed_.begin() + static_cast<std::ptrdiff_t>(hi);
-      auto below = [depth](const auto& e, unsigned char ch) {
-        return static_cast<unsigned char>(e.first[depth]) < ch;
-      };
-      auto above = [depth](unsigned char ch, const auto& e) {
-        return ch < static_cast<unsigned char>(e.first[depth]);
-      };
-      lo = static_cast<std::size_t>(std::lower_bound(first, last, c, below) - reversed_.begin());
-      hi = static_cast<std::size_t>(std::upper_bound(first, last, c, above) - reversed_.begin());
     }
   }
 
-  void Unindex(Piece& p) {
-    for (int id : p.holds) {
-      auto& h = holders_[id];
-      h.erase(std::find(h.begin(), h.end(), &p));
+  // The first living stretch that holds the selector; dead ones are unlinked on the way.
+  int Holder(int id) {
+    int best = -1;
+    int* link = &firstHolder_[id];
+    while (*link >= 0) {
+      HolderEntry& e = holderEntries_[*link];
+      if (!pieces_[e.piece].alive) {
+        *link = e.next;
+        continue;
+      }
+      if (best < 0 || pieces_[e.piece].order < pieces_[best].order) best = e.piece;
+      link = &e.next;
     }
-    p.holds.clear();
-  }
-
-  Piece* Holder(int id) const {
-    Piece* best = nullptr;
-    for (Piece* p : holders_[id])
-      if (!best || p->order < best->order) best = p;
     return best;
   }
 
   // The first "}" at or after the match, anywhere further on.
-  bool FindClose(PieceIt k, std::size_t match, Place& close) {
-    PieceIt it = k;
-    std::size_t at = k->text.find('}', match);
+  bool FindClose(int k, std::size_t match, Place& close) const {
+    int p = k;
+    std::size_t at = TextOf(k).find('}', match);
     while (at == npos) {
-      if (++it == pieces_.end()) return false;
-      at = it->text.find('}');
+      p = pieces_[p].next;
+      if (p < 0) return false;
+      at = TextOf(p).find('}');
     }
-    close = {it, at};
+    close = {p, at};
     return true;
   }
 
-  // Replaces the pieces from `from` to `to` (both included) by `text`, cut anew; returns
+  void AppendBody(const StyleWrite& w) {
+    scratch_.append("{\r\n").append(w.declarations).append("\r\n}");
+  }
+
+  // Replaces the pieces from `from` to `to` (both included) by scratch_, cut anew; returns
   // the first new piece.
-  PieceIt Replace(PieceIt from, PieceIt to, const std::string& text) {
-    if (insertion_.known && (insertion_.guardsAll || from->order <= insertion_.guard->order))
+  int Replace(int from, int to) {
+    if (insertion_.known &&
+        (insertion_.guardsAll || pieces_[from].order <= pieces_[insertion_.guard].order))
       insertion_.known = false;
-    const bool first = from == pieces_.begin();
-    const PieceIt before = first ? pieces_.end() : std::prev(from);
-    const PieceIt after = std::next(to);
-    for (PieceIt it = from; it != after; ++it) Unindex(*it);
-    pieces_.erase(from, after);
-    std::vector<std::string> parts = Split(text, first);
-    const std::uint64_t slots = parts.size() + 1;
-    auto low = [&] { return first ? std::uint64_t{0} : before->order; };
-    auto high = [&] { return after == pieces_.end() ? low() + kGap * slots : after->order; };
+    const bool first = from == head_;
+    const int before = pieces_[from].prev;
+    const int after = pieces_[to].next;
+    for (int p = from;; p = pieces_[p].next) {
+      pieces_[p].alive = false;
+      if (p == to) break;
+    }
+    const std::size_t at = added_.size();
+    added_ += scratch_;
+    const std::uint64_t slots = CountParts(scratch_, first) + 1;
+    auto low = [&] { return before < 0 ? std::uint64_t{0} : pieces_[before].order; };
+    auto high = [&] { return after < 0 ? low() + kGap * slots : pieces_[after].order; };
     if (high() - low() < slots) Renumber();
     const std::uint64_t step = (high() - low()) / slots;
-    std::uint64_t order = low();
-    PieceIt firstNew = after;
-    for (std::string& part : parts) {
-      PieceIt it = pieces_.emplace(after, Piece{});
-      it->text = std::move(part);
-      it->upper = UCase(it->text);
-      it->order = order += step;
-      it->self = it;
-      if (firstNew == after) firstNew = it;
-    }
-    for (PieceIt it = firstNew; it != after; ++it) Index(*it);
+    const int firstNew = AddPieces(true, at, scratch_.size(), first, before, after, low(), step);
+    for (int p = firstNew; p != after; p = pieces_[p].next) Index(p);
     return firstNew;
   }
 
   void Renumber() {
     std::uint64_t order = 0;
-    for (Piece& p : pieces_) p.order = order += kGap;
+    for (int p = head_; p >= 0; p = pieces_[p].next) pieces_[p].order = order += kGap;
   }
 
   // Just behind the first "<STYLE" tag's ">", or at the end of a text that is no page.
   const InsertionPoint& Insertion(bool embedded) {
     if (insertion_.known && insertion_.embedded == embedded) return insertion_;
-    const PieceIt last = std::prev(pieces_.end());
-    insertion_ = {true, embedded, false, {pieces_.begin(), 0}, last, true};
+    insertion_ = {true, embedded, false, {head_, 0}, tail_, true};
     if (!embedded) {
-      insertion_.at = {last, last->text.size()};
+      insertion_.at = {tail_, pieces_[tail_].size};
       return insertion_;
     }
-    for (PieceIt it = pieces_.begin(); it != pieces_.end(); ++it) {
-      const std::size_t tag = it->upper.find("<STYLE");
+    for (int p = head_; p >= 0; p = pieces_[p].next) {
+      const std::size_t tag = FindUpper(TextOf(p), "<STYLE");
       if (tag == npos) continue;
       insertion_.hasTag = true;
-      for (std::size_t gt = it->text.find('>', tag); it != pieces_.end();
-           ++it, gt = it == pieces_.end() ? npos : it->text.find('>')) {
+      for (std::size_t gt = TextOf(p).find('>', tag); p >= 0;
+           p = pieces_[p].next, gt = p < 0 ? npos : TextOf(p).find('>')) {
         if (gt != npos) {
-          insertion_.at = {it, gt + 1};
-          insertion_.guard = it;
+          insertion_.at = {p, gt + 1};
+          insertion_.guard = p;
           insertion_.guardsAll = false;
           break;
         }
@@ -284,14 +391,16 @@ class Writer {
     return insertion_;
   }
 
-  void InsertAtInsertionPoint(const StyleWrite& w, const std::string& body) {
+  void InsertAtInsertionPoint(const StyleWrite& w) {
     const InsertionPoint point = Insertion(w.embedded);
     const Place at = point.at;
     const bool tagClosed = point.hasTag && !point.guardsAll;
-    const std::string rule = "\r\n" + w.selector + "\r\n" + body + "\r\n";
-    const PieceIt first =
-        Replace(at.piece, at.piece,
-                at.piece->text.substr(0, at.offset) + rule + at.piece->text.substr(at.offset));
+    scratch_.clear();
+    scratch_.append(TextOf(at.piece).substr(0, at.offset));
+    scratch_.append("\r\n").append(w.selector).append("\r\n");
+    AppendBody(w);
+    scratch_.append("\r\n").append(TextOf(at.piece).substr(at.offset));
+    const int first = Replace(at.piece, at.piece);
     // The tag and its ">" stand before the new rule: the next one goes in at the same place.
     if (w.embedded && tagClosed) insertion_ = {true, true, true, {first, at.offset}, first, false};
   }
@@ -299,17 +408,37 @@ class Writer {
   void WriteLiterally(const StyleWrite& w) {
     std::string text = Text();
     ApplyTextEdits(text, StyleWriteEdits(text, w.selector, w.declarations, w.embedded, w.remove));
-    Build(text);
+    rebuilt_ = std::move(text);
+    Build(rebuilt_);
   }
 
   static constexpr std::uint64_t kGap = std::uint64_t{1} << 32;
 
-  PieceList pieces_;
+  struct HolderEntry {
+    int piece;
+    int next;  // the selector's next entry, or -1
+  };
+
+  std::string_view text_;  // the text given, or rebuilt_
+  std::string rebuilt_;    // the text after a write made the slow way
+  std::string added_;      // every piece written since, never shrunk
+  std::vector<Piece> pieces_;
+  int head_ = -1;
+  int tail_ = -1;
+  std::size_t reserve_ = 0;  // what the writes add at most, beyond the stretches they keep
+  std::string scratch_;  // the text of a replacement, before it joins the store
+
   std::vector<std::string> selectors_;  // upper-cased, by id
-  std::unordered_map<std::string, int> idOf_;
-  std::vector<int> writeIds_;  // by write, -1 for a selector written the slow way
-  std::vector<std::pair<std::string, int>> reversed_;  // sorted
-  std::vector<std::vector<Piece*>> holders_;           // by selector id
+  struct Slot {
+    int id = -1;
+    std::uint32_t check = 0;
+  };
+  std::vector<Slot> table_;             // selector ids by backward hash
+  std::vector<std::size_t> lengths_;    // of the selectors, ascending, each once
+  std::vector<int> writeIds_;           // by write, -1 for a selector written the slow way
+  std::vector<int> firstHolder_;        // by selector id: its first entry, or -1
+  std::vector<HolderEntry> holderEntries_;
+  std::vector<std::size_t> ends_;
   bool spacedEnds_ = false;
   InsertionPoint insertion_;
 };
