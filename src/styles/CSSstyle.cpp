@@ -16,36 +16,40 @@ std::string DecorationText(const std::string& textDecoration) {
 void CSSstyle::GetStyleDefinition() {
   std::string d;
   d.reserve(160 + ExtraAttributes.size());
-  auto value = [&d](const char* name, const std::string& v) {
-    if (!v.empty()) d.append(name).append(":").append(v).append(";");
+  auto value = [&d](std::string_view name, const std::string& v) {
+    if (v.empty()) return;
+    d.append(name).append(v);
+    d += ';';
   };
-  auto measure = [&d](const char* name, const std::string& number, const std::string& unit) {
-    if (!number.empty()) d.append(name).append(":").append(number).append(unit).append(";");
+  auto measure = [&d](std::string_view name, const std::string& number, const std::string& unit) {
+    if (number.empty()) return;
+    d.append(name).append(number).append(unit);
+    d += ';';
   };
-  value("font-family", FontFamily);
-  measure("font-size", FontSize, FontSizeUnit);
-  value("color", Color);
-  value("text-transform", TextTransform);
+  value("font-family:", FontFamily);
+  measure("font-size:", FontSize, FontSizeUnit);
+  value("color:", Color);
+  value("text-transform:", TextTransform);
   // These three are on/off flags: the value read is not kept.
   if (!FontWeight.empty()) d += "font-weight:bold;";
   if (!FontStyle.empty()) d += "font-style:italic;";
   if (!FontVariant.empty()) d += "font-variant:small-caps;";
-  value("text-decoration", DecorationText(TextDecoration));
-  value("vertical-align", VerticalAlign);
-  value("text-align", TextAlign);
-  measure("text-indent", TextIndent, TextIndentUnit);
-  measure("letter-spacing", LetterSpacing, LetterSpacingUnit);
-  measure("line-height", LineHeight, LineHeightUnit);
-  value("background-color", BackgroundColor);
-  value("background-image", BackgroundImage);
-  value("background-repeat", BackgroundRepeat);
-  measure("height", StyleHeight, StyleHeightUnit);
-  measure("width", StyleWidth, StyleWidthUnit);
-  measure("left", StyleLeft, StyleLeftUnit);
-  measure("top", StyleTop, StyleTopUnit);
-  value("position", Position);
-  value("visibility", Visibility);
-  value("z-index", ZIndex);
+  if (!TextDecoration.empty()) value("text-decoration:", DecorationText(TextDecoration));
+  value("vertical-align:", VerticalAlign);
+  value("text-align:", TextAlign);
+  measure("text-indent:", TextIndent, TextIndentUnit);
+  measure("letter-spacing:", LetterSpacing, LetterSpacingUnit);
+  measure("line-height:", LineHeight, LineHeightUnit);
+  value("background-color:", BackgroundColor);
+  value("background-image:", BackgroundImage);
+  value("background-repeat:", BackgroundRepeat);
+  measure("height:", StyleHeight, StyleHeightUnit);
+  measure("width:", StyleWidth, StyleWidthUnit);
+  measure("left:", StyleLeft, StyleLeftUnit);
+  measure("top:", StyleTop, StyleTopUnit);
+  value("position:", Position);
+  value("visibility:", Visibility);
+  value("z-index:", ZIndex);
   d += ExtraAttributes;
   Definition = std::move(d);
 }

@@ -96,8 +96,13 @@ class Writer {
         id = static_cast<int>(selectors_.size());
         const char last = upper.back();
         if (last == ' ' || last == '\t' || last == '\r' || last == '\n') spacedEnds_ = true;
-        const auto place = std::lower_bound(lengths_.begin(), lengths_.end(), upper.size());
-        if (place == lengths_.end() || *place != upper.size()) lengths_.insert(place, upper.size());
+        auto place = std::lower_bound(
+            lengths_.begin(), lengths_.end(), upper.size(),
+            [](const Length& l, std::size_t size) { return l.length < size; });
+        if (place == lengths_.end() || place->length != upper.size())
+          place = lengths_.insert(place, Length{upper.size(), {}});
+        const auto first = static_cast<unsigned char>(upper[0]);
+        place->firsts[first / 64] |= std::uint64_t{1} << (first % 64);
         selectors_.push_back(std::move(upper));
         Insert(id, hash);
       }
@@ -291,9 +296,12 @@ class Writer {
   void Candidates(int p, std::string_view t, std::size_t end) {
     std::uint64_t h = kHashStart;
     std::size_t hashed = 0;
-    for (std::size_t length : lengths_) {
+    for (const Length& l : lengths_) {
+      const std::size_t length = l.length;
       if (length > end) break;
       while (hashed < length) h = HashStep(h, Upper(t[end - 1 - hashed++]));
+      const auto first = static_cast<unsigned char>(Upper(t[end - length]));
+      if (!(l.firsts[first / 64] >> (first % 64) & 1)) continue;
       const int id = Lookup(t.substr(end - length, length), h);
       if (id >= 0 && FindUpper(t, selectors_[id]) == end - length) {
         holderEntries_.push_back({p, firstHolder_[id]});
@@ -434,7 +442,13 @@ class Writer {
     std::uint32_t check = 0;
   };
   std::vector<Slot> table_;             // selector ids by backward hash
-  std::vector<std::size_t> lengths_;    // of the selectors, ascending, each once
+  // The lengths of the selectors, ascending, each with the bytes its selectors begin with:
+  // most places need no look-up at all.
+  struct Length {
+    std::size_t length;
+    std::uint64_t firsts[4];
+  };
+  std::vector<Length> lengths_;
   std::vector<int> writeIds_;           // by write, -1 for a selector written the slow way
   std::vector<int> firstHolder_;        // by selector id: its first entry, or -1
   std::vector<HolderEntry> holderEntries_;
