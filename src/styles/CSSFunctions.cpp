@@ -191,6 +191,14 @@ std::vector<StyleRule> ScanStyleRules(std::string_view sheet) {
 
 std::vector<std::string> LoadStyleRules(StyleState& state, std::string_view sheet) {
   std::vector<std::string> selectors;
+  // Every rule has a "{": their count bounds the rules.
+  std::size_t braces = 0;
+  for (const char* p = sheet.data(), *end = p + sheet.size();
+       (p = static_cast<const char*>(std::memchr(p, '{', static_cast<std::size_t>(end - p))));
+       ++p)
+    ++braces;
+  selectors.reserve(braces);
+  state.Styles.Reserve(state.Styles.Count() + braces);
   ForEachStyleRule(sheet, [&](std::string_view selectorText, std::string_view declarations) {
     std::string oneLine;
     AppendOneLine(oneLine, declarations, {});

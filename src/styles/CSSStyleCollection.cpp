@@ -49,6 +49,11 @@ bool CSSStyleCollection::Remove(std::size_t index) {
   return true;
 }
 
+void CSSStyleCollection::Reserve(std::size_t count) {
+  entries_.reserve(count);
+  byKey_.reserve(count);
+}
+
 void CSSStyleCollection::Clear() {
   entries_.clear();
   byKey_.clear();

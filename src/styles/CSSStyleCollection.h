@@ -32,6 +32,8 @@ class CSSStyleCollection {
   bool Remove(std::string_view key);
   bool Remove(std::size_t index);
   void Clear();
+  // Room for `count` styles in all, so that a large sheet is read without regrowing.
+  void Reserve(std::size_t count);
 
   // Enumeration in order of insertion (NewEnum).
   class Iterator {

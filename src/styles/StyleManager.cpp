@@ -41,6 +41,7 @@ bool LoadStyles(Application& app, std::vector<std::string>& listed) {
 std::vector<StyleWrite> SaveStylesWrites(const CSSStyleCollection& styles,
                                          const std::string& caption) {
   std::vector<StyleWrite> writes;
+  writes.reserve(styles.Count());
   // A removal takes the flag of the last changed style before it, clear before any.
   bool embedded = false;
   for (const CSSstyle& s : styles) {
