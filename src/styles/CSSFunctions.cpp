@@ -4,6 +4,7 @@
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <memory>
 
 #include "core/Application.h"
 #include "core/TextServices.h"
@@ -189,6 +190,51 @@ std::vector<StyleRule> ScanStyleRules(std::string_view sheet) {
   return rules;
 }
 
+namespace {
+
+// The styles read from one sheet are carved from shared blocks: one allocation for many
+// rules, where a style apiece would be a large allocation each (and a heap clean-up each).
+// The blocks go with the last of their styles.
+class StyleBlocks {
+ public:
+  void* Take(std::size_t size, std::size_t align) {
+    used_ = (used_ + align - 1) / align * align;
+    if (blocks_.empty() || used_ + size > kBlockSize) {
+      blocks_.emplace_back(new std::byte[std::max(size, kBlockSize)]);  // not cleared
+      used_ = 0;
+    }
+    void* at = blocks_.back().get() + used_;
+    used_ += size;
+    return at;
+  }
+
+ private:
+  // Below the size the heap maps afresh from the system each time.
+  static constexpr std::size_t kBlockSize = 60 * 1024;
+  std::vector<std::unique_ptr<std::byte[]>> blocks_;
+  std::size_t used_ = 0;
+};
+
+template <typename T>
+struct BlockAllocator {
+  using value_type = T;
+  explicit BlockAllocator(std::shared_ptr<StyleBlocks> b) : blocks(std::move(b)) {}
+  template <typename U>
+  BlockAllocator(const BlockAllocator<U>& other) : blocks(other.blocks) {}
+  T* allocate(std::size_t n) { return static_cast<T*>(blocks->Take(sizeof(T) * n, alignof(T))); }
+  void deallocate(T*, std::size_t) {}
+  template <typename U>
+  bool operator==(const BlockAllocator<U>& other) const {
+    return blocks == other.blocks;
+  }
+  std::shared_ptr<StyleBlocks> blocks;
+};
+
+void ParseInto(StyleState& state, std::shared_ptr<CSSstyle> made, const std::string& selector,
+               std::string&& declarations);
+
+}  // namespace
+
 std::vector<std::string> LoadStyleRules(StyleState& state, std::string_view sheet) {
   std::vector<std::string> selectors;
   // Every rule has a "{": their count bounds the rules.
@@ -199,11 +245,12 @@ std::vector<std::string> LoadStyleRules(StyleState& state, std::string_view shee
     ++braces;
   selectors.reserve(braces);
   state.Styles.Reserve(state.Styles.Count() + braces);
+  const BlockAllocator<CSSstyle> blocks(std::make_shared<StyleBlocks>());
   ForEachStyleRule(sheet, [&](std::string_view selectorText, std::string_view declarations) {
     std::string oneLine;
     AppendOneLine(oneLine, declarations, {});
     std::string selector = SelectorText(selectorText);
-    ParseStyleDefinition(state, selector, std::move(oneLine));
+    ParseInto(state, std::allocate_shared<CSSstyle>(blocks), selector, std::move(oneLine));
     selectors.push_back(std::move(selector));
   });
   return selectors;
@@ -260,7 +307,13 @@ void ParseStyleDefinition(StyleState& state, const std::string& selector,
 
 void ParseStyleDefinition(StyleState& state, const std::string& selector,
                           std::string&& declarations) {
-  auto made = std::make_shared<CSSstyle>();
+  ParseInto(state, std::make_shared<CSSstyle>(), selector, std::move(declarations));
+}
+
+namespace {
+
+void ParseInto(StyleState& state, std::shared_ptr<CSSstyle> made, const std::string& selector,
+               std::string&& declarations) {
   made->StyleName = selector;
   made->Definition = std::move(declarations);
   // A style that is not taken is filled, then lost with the dialog, without name or text.
@@ -341,6 +394,8 @@ void ParseStyleDefinition(StyleState& state, const std::string& selector,
     rest.remove_prefix(semicolon + 1);
   }
 }
+
+}  // namespace
 
 std::string FormattedStyleDefinition(std::string_view declarations, int mode) {
   std::string d;

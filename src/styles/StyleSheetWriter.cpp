@@ -218,8 +218,7 @@ class Writer {
     added_.reserve(reserve_);
     pieces_.reserve(CountParts(text, true) * 2);
     head_ = tail_ = -1;
-    const int first = AddPieces(false, 0, text.size(), true, -1, -1, 0, kGap);
-    for (int p = first; p >= 0; p = pieces_[p].next) Index(p);
+    frontier_ = AddPieces(false, 0, text.size(), true, -1, -1, 0, kGap);
   }
 
   // Links the stretches of store range [at, at + size), cut at every "{" (the first one is
@@ -311,6 +310,7 @@ class Writer {
   }
 
   // The first living stretch that holds the selector; dead ones are unlinked on the way.
+  // Stretches are indexed in text order only as far as a look-up needs.
   int Holder(int id) {
     int best = -1;
     int* link = &firstHolder_[id];
@@ -322,6 +322,12 @@ class Writer {
       }
       if (best < 0 || pieces_[e.piece].order < pieces_[best].order) best = e.piece;
       link = &e.next;
+    }
+    while (best < 0 && frontier_ >= 0) {
+      const int p = frontier_;
+      frontier_ = pieces_[p].next;
+      Index(p);
+      if (firstHolder_[id] >= 0 && holderEntries_[firstHolder_[id]].piece == p) best = p;
     }
     return best;
   }
@@ -350,6 +356,10 @@ class Writer {
         (insertion_.guardsAll || pieces_[from].order <= pieces_[insertion_.guard].order))
       insertion_.known = false;
     const bool first = from == head_;
+    // Stretches before the frontier are indexed, and so must be new ones that stand there.
+    const bool indexed = frontier_ < 0 || pieces_[from].order < pieces_[frontier_].order;
+    const bool frontierReplaced = frontier_ >= 0 && pieces_[from].order <= pieces_[frontier_].order &&
+                                  pieces_[frontier_].order <= pieces_[to].order;
     const int before = pieces_[from].prev;
     const int after = pieces_[to].next;
     for (int p = from;; p = pieces_[p].next) {
@@ -364,7 +374,12 @@ class Writer {
     if (high() - low() < slots) Renumber();
     const std::uint64_t step = (high() - low()) / slots;
     const int firstNew = AddPieces(true, at, scratch_.size(), first, before, after, low(), step);
-    for (int p = firstNew; p != after; p = pieces_[p].next) Index(p);
+    if (indexed) {
+      for (int p = firstNew; p != after; p = pieces_[p].next) Index(p);
+      if (frontierReplaced) frontier_ = after;
+    } else if (frontierReplaced) {
+      frontier_ = firstNew;
+    }
     return firstNew;
   }
 
@@ -433,6 +448,7 @@ class Writer {
   std::vector<Piece> pieces_;
   int head_ = -1;
   int tail_ = -1;
+  int frontier_ = -1;  // the first stretch not yet indexed, or -1 when all are
   std::size_t reserve_ = 0;  // what the writes add at most, beyond the stretches they keep
   std::string scratch_;  // the text of a replacement, before it joins the store
 
