@@ -4,10 +4,10 @@
 // index and enumeration only. Enumeration runs in order of insertion.
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -57,9 +57,21 @@ class CSSStyleCollection {
  private:
   void EraseAt(std::size_t zeroBased);
 
-  // (folded key or "", style) in insertion order, and the folded keys.
+  // The entry under a folded key, or -1.
+  long Find(std::string_view folded, std::uint64_t hash) const;
+  void Index(std::size_t entry, std::uint64_t hash);
+  void Reindex(std::size_t slots);
+
+  // (folded key or "", style) in insertion order.
   std::vector<std::pair<std::string, StylePtr>> entries_;
-  std::unordered_map<std::string, StylePtr> byKey_;
+  // The keyed entries by hash, open addressing; each slot keeps half the hash, so that most
+  // misses never compare a key.
+  struct Slot {
+    std::int32_t entry = -1;
+    std::uint32_t check = 0;
+  };
+  std::vector<Slot> slots_;
+  std::size_t keyed_ = 0;
 };
 
 }  // namespace tessarine

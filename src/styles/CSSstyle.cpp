@@ -14,7 +14,9 @@ std::string DecorationText(const std::string& textDecoration) {
 }
 
 void CSSstyle::GetStyleDefinition() {
-  std::string d;
+  // Written over the old text, so its room is used again.
+  std::string& d = Definition;
+  d.clear();
   d.reserve(160 + ExtraAttributes.size());
   auto value = [&d](std::string_view name, const std::string& v) {
     if (v.empty()) return;
@@ -51,7 +53,6 @@ void CSSstyle::GetStyleDefinition() {
   value("visibility:", Visibility);
   value("z-index:", ZIndex);
   d += ExtraAttributes;
-  Definition = std::move(d);
 }
 
 }  // namespace tessarine

@@ -55,12 +55,12 @@ std::size_t FindUpper(std::string_view text, std::string_view upper) {
 // Stretches are ranges of the text or of a growing store of what the writes added, linked
 // in text order; a replaced stretch is left dead in place and never reused.
 struct Piece {
+  std::uint64_t order = 0;  // grows along the text
   std::size_t at = 0;
   std::size_t size = 0;
-  bool added = false;  // a range of the store, not of the text
-  std::uint64_t order = 0;  // grows along the text
   int prev = -1;
   int next = -1;
+  bool added = false;  // a range of the store, not of the text
   bool alive = true;
 };
 
@@ -120,14 +120,13 @@ class Writer {
       WriteLiterally(w);
       return;
     }
-    const std::string& upper = selectors_[static_cast<std::size_t>(id)];
-    const int k = Holder(id);
+    std::size_t match = 0;
+    const int k = Holder(id, match);
     if (k < 0) {
       InsertAtInsertionPoint(w);
       return;
     }
     const int open = pieces_[k].next;
-    const std::size_t match = FindUpper(TextOf(k), upper);
     Place close;
     const bool closed = FindClose(k, match, close);
     scratch_.clear();
@@ -216,7 +215,8 @@ class Writer {
     text_ = text;
     added_.clear();
     added_.reserve(reserve_);
-    pieces_.reserve(CountParts(text, true) * 2);
+    // Each write adds a stretch or two as a rule.
+    pieces_.reserve(CountParts(text, true) + writeIds_.size() * 2 + 8);
     head_ = tail_ = -1;
     frontier_ = AddPieces(false, 0, text.size(), true, -1, -1, 0, kGap);
   }
@@ -303,7 +303,7 @@ class Writer {
       if (!(l.firsts[first / 64] >> (first % 64) & 1)) continue;
       const int id = Lookup(t.substr(end - length, length), h);
       if (id >= 0 && FindUpper(t, selectors_[id]) == end - length) {
-        holderEntries_.push_back({p, firstHolder_[id]});
+        holderEntries_.push_back({p, firstHolder_[id], end - length});
         firstHolder_[id] = static_cast<int>(holderEntries_.size() - 1);
       }
     }
@@ -311,7 +311,7 @@ class Writer {
 
   // The first living stretch that holds the selector; dead ones are unlinked on the way.
   // Stretches are indexed in text order only as far as a look-up needs.
-  int Holder(int id) {
+  int Holder(int id, std::size_t& match) {
     int best = -1;
     int* link = &firstHolder_[id];
     while (*link >= 0) {
@@ -320,14 +320,20 @@ class Writer {
         *link = e.next;
         continue;
       }
-      if (best < 0 || pieces_[e.piece].order < pieces_[best].order) best = e.piece;
+      if (best < 0 || pieces_[e.piece].order < pieces_[best].order) {
+        best = e.piece;
+        match = e.match;
+      }
       link = &e.next;
     }
     while (best < 0 && frontier_ >= 0) {
       const int p = frontier_;
       frontier_ = pieces_[p].next;
       Index(p);
-      if (firstHolder_[id] >= 0 && holderEntries_[firstHolder_[id]].piece == p) best = p;
+      if (firstHolder_[id] >= 0 && holderEntries_[firstHolder_[id]].piece == p) {
+        best = p;
+        match = holderEntries_[firstHolder_[id]].match;
+      }
     }
     return best;
   }
@@ -439,7 +445,8 @@ class Writer {
 
   struct HolderEntry {
     int piece;
-    int next;  // the selector's next entry, or -1
+    int next;           // the selector's next entry, or -1
+    std::size_t match;  // where the selector stands in the stretch
   };
 
   std::string_view text_;  // the text given, or rebuilt_
