@@ -13,7 +13,8 @@ namespace {
 
 std::string OneByOne(std::string text, const std::vector<StyleWrite>& writes) {
   for (const StyleWrite& w : writes)
-    ApplyTextEdits(text, StyleWriteEdits(text, w.selector, w.declarations, w.embedded, w.remove));
+    ApplyTextEdits(text,
+                   StyleWriteEdits(text, w.selector, DeclarationsAsWritten(w), w.embedded, w.remove));
   return text;
 }
 
@@ -26,7 +27,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string text(in.Rest());
   const std::string caption = (switches & 1) ? "/site/sheet.css" : "/site/page.htm";
 
-  const std::string sheet = DocumentStyleSheet(text, caption);
+  const std::string_view sheet = DocumentStyleSheet(text, caption);
   FUZZ_CHECK(sheet.size() <= text.size());
   StyleState state;
   const std::vector<std::string> listed = LoadStyleRules(state, sheet);
@@ -50,7 +51,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ++i;
   }
   std::vector<StyleWrite> writes = SaveStylesWrites(state.Styles, caption);
-  writes.push_back({selector, declarations, (switches & 16) != 0, (switches & 32) != 0});
+  writes.push_back(
+      {selector, declarations, (switches & 16) != 0, (switches & 32) != 0, (switches & 64) != 0});
   FUZZ_CHECK(WriteStyleDefinitions(text, writes) == OneByOne(text, writes));
   return 0;
 }

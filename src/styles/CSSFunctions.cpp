@@ -145,20 +145,20 @@ bool IsBlankGap(std::string_view gap) {
   return !wantLf;
 }
 
-std::string DocumentStyleSheet(std::string_view text, std::string_view caption) {
-  if (caption.find(".css") != npos) return std::string(text);
+std::string_view DocumentStyleSheet(std::string_view text, std::string_view caption) {
+  if (caption.find(".css") != npos) return text;
   const std::size_t style = FindNoCase(text, "<STYLE");
   if (style == npos) return {};
   const std::size_t open = text.find('>', style);
   const std::size_t close = FindNoCase(text, "</STYLE", style);
   if (open == npos || close == npos || close <= open) return {};
-  return std::string(text.substr(open + 1, close - open - 1));
+  return text.substr(open + 1, close - open - 1);
 }
 
 std::string GetDocumentStyleSheet(Application& app) {
   DocumentWindow* w = app.ActiveDocument();
   if (!w) return {};
-  return DocumentStyleSheet(w->Edit().View(), w->Caption());
+  return std::string(DocumentStyleSheet(w->Edit().View(), w->Caption()));
 }
 
 namespace {
@@ -403,14 +403,19 @@ std::string FormattedStyleDefinition(std::string_view declarations, int mode) {
     d = "\r\n    ";
     AppendOneLine(d, declarations, "\r\n    ");
   } else if (mode == kStyleForDocument) {
-    d = "\t";
-    AppendOneLine(d, declarations, "\r\n\t");
-    // Drops the last line break and tab; too short a text is left as it is.
-    if (d.size() >= 3) d.resize(d.size() - 3);
+    AppendDocumentLayout(d, declarations);
   } else {
     AppendOneLine(d, declarations, {});
   }
   return d;
+}
+
+void AppendDocumentLayout(std::string& out, std::string_view declarations) {
+  const std::size_t kept = out.size();
+  out += '\t';
+  AppendOneLine(out, declarations, "\r\n\t");
+  // Drops the last line break and tab; too short a text is left as it is.
+  if (out.size() - kept >= 3) out.resize(out.size() - 3);
 }
 
 void FormatStyleDefinition(std::string& declarations, int mode) {

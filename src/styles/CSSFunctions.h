@@ -17,7 +17,7 @@ struct StyleState;
 // The sheet of a text shown in a window with `caption`: the whole text for a caption that
 // holds ".css", else what stands between the first "<STYLE" tag's ">" and its "</STYLE",
 // else nothing (a linked sheet is never followed).
-std::string DocumentStyleSheet(std::string_view text, std::string_view caption);
+std::string_view DocumentStyleSheet(std::string_view text, std::string_view caption);
 std::string GetDocumentStyleSheet(Application& app);
 
 struct StyleRule {
@@ -56,6 +56,8 @@ enum StyleLayout : int {
 };
 void FormatStyleDefinition(std::string& declarations, int mode);
 std::string FormattedStyleDefinition(std::string_view declarations, int mode);
+// FormattedStyleDefinition(declarations, kStyleForDocument) added to `out`.
+void AppendDocumentLayout(std::string& out, std::string_view declarations);
 
 struct TextEdit {
   std::int64_t start = 0;

@@ -14,10 +14,9 @@ std::string DecorationText(const std::string& textDecoration) {
 }
 
 void CSSstyle::GetStyleDefinition() {
-  // Written over the old text, so its room is used again.
+  // Written over the old text, so its room is used again: a changed rule is rarely longer.
   std::string& d = Definition;
   d.clear();
-  d.reserve(160 + ExtraAttributes.size());
   auto value = [&d](std::string_view name, const std::string& v) {
     if (v.empty()) return;
     d.append(name).append(v);

@@ -26,7 +26,9 @@ bool LoadStyles(Application& app, std::vector<std::string>& listed) {
   StyleState& state = app.styles;
   state.Reset();
   listed.clear();
-  const std::string sheet = GetDocumentStyleSheet(app);
+  // Read in place: the document does not change while its rules are read.
+  DocumentWindow* w = app.ActiveDocument();
+  const std::string_view sheet = w ? DocumentStyleSheet(w->Edit().View(), w->Caption()) : "";
   if (!sheet.empty() || state.StyleDialogMode != kApplyStyle) listed = LoadStyleRules(state, sheet);
   if (state.StyleDialogMode != kApplyStyle || !listed.empty()) return true;
   if (app.messages.Show(
@@ -47,8 +49,7 @@ std::vector<StyleWrite> SaveStylesWrites(const CSSStyleCollection& styles,
   for (const CSSstyle& s : styles) {
     if (s.Status != kStyleChanged && s.Status != kStyleDeleted) continue;
     if (s.Status == kStyleChanged) embedded = !EndsWith(caption, ".css");
-    writes.push_back({s.StyleName, FormattedStyleDefinition(s.Definition, kStyleForDocument),
-                      embedded, s.Status == kStyleDeleted});
+    writes.push_back({s.StyleName, s.Definition, embedded, s.Status == kStyleDeleted, true});
   }
   return writes;
 }

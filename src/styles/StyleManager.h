@@ -23,7 +23,8 @@ inline const char* const kNoApplyInStyleSheet =
 // user asked whether to add styles and said No (Yes turns the mode to full).
 bool LoadStyles(Application& app, std::vector<std::string>& listed);
 
-// What OK writes: each changed style, each deleted one cut, in the order of Styles.
+// What OK writes: each changed style, each deleted one cut, in the order of Styles. The
+// writes point into the styles.
 std::vector<StyleWrite> SaveStylesWrites(const CSSStyleCollection& styles,
                                          const std::string& caption);
 // Writes them into the active document as one edit.

@@ -107,7 +107,7 @@ class Writer {
         Insert(id, hash);
       }
       writeIds_.push_back(id);
-      reserve_ += w.selector.size() + w.declarations.size() + 16;
+      reserve_ += w.selector.size() + w.declarations.size() * (w.oneLine ? 2 : 1) + 16;
     }
     firstHolder_.assign(selectors_.size(), -1);
     Build(text);
@@ -352,7 +352,12 @@ class Writer {
   }
 
   void AppendBody(const StyleWrite& w) {
-    scratch_.append("{\r\n").append(w.declarations).append("\r\n}");
+    scratch_.append("{\r\n");
+    if (w.oneLine)
+      AppendDocumentLayout(scratch_, w.declarations);
+    else
+      scratch_.append(w.declarations);
+    scratch_.append("\r\n}");
   }
 
   // Replaces the pieces from `from` to `to` (both included) by scratch_, cut anew; returns
@@ -436,7 +441,8 @@ class Writer {
 
   void WriteLiterally(const StyleWrite& w) {
     std::string text = Text();
-    ApplyTextEdits(text, StyleWriteEdits(text, w.selector, w.declarations, w.embedded, w.remove));
+    ApplyTextEdits(text, StyleWriteEdits(text, w.selector, DeclarationsAsWritten(w), w.embedded,
+                                         w.remove));
     rebuilt_ = std::move(text);
     Build(rebuilt_);
   }
@@ -481,6 +487,11 @@ class Writer {
 };
 
 }  // namespace
+
+std::string DeclarationsAsWritten(const StyleWrite& w) {
+  return w.oneLine ? FormattedStyleDefinition(w.declarations, kStyleForDocument)
+                   : std::string(w.declarations);
+}
 
 std::string WriteStyleDefinitions(std::string_view text, const std::vector<StyleWrite>& writes) {
   Writer writer(text, writes);

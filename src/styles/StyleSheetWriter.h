@@ -10,12 +10,19 @@
 
 namespace tessarine {
 
+// One rule to write. The texts are views: the caller keeps them alive through the write.
 struct StyleWrite {
-  std::string selector;
-  std::string declarations;
+  std::string_view selector;
+  // As they go between the braces; or, with `oneLine`, a style's one-line Definition, laid
+  // out for the document (a declaration a line, tab-indented) as it is written.
+  std::string_view declarations;
   bool embedded = true;
   bool remove = false;
+  bool oneLine = false;
 };
+
+// The declarations as they go between the braces.
+std::string DeclarationsAsWritten(const StyleWrite& w);
 
 std::string WriteStyleDefinitions(std::string_view text, const std::vector<StyleWrite>& writes);
 

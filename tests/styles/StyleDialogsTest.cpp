@@ -226,7 +226,7 @@ TEST(StyleManager, RemovalsBeforeAnyChangeWriteAsInAStyleSheet) {
   EXPECT_FALSE(writes[0].embedded);
   EXPECT_TRUE(writes[1].embedded);
   EXPECT_TRUE(writes[2].embedded);
-  EXPECT_EQ(writes[1].declarations, "\ta:b;");
+  EXPECT_EQ(DeclarationsAsWritten(writes[1]), "\ta:b;");
   EXPECT_FALSE(SaveStylesWrites(styles, "/w/page.css")[1].embedded);
   EXPECT_TRUE(SaveStylesWrites(styles, "/w/page.CSS")[1].embedded);  // exact this time
 }

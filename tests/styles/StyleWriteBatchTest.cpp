@@ -13,15 +13,17 @@ namespace {
 
 std::string OneByOne(std::string text, const std::vector<StyleWrite>& writes) {
   for (const StyleWrite& w : writes)
-    ApplyTextEdits(text, StyleWriteEdits(text, w.selector, w.declarations, w.embedded, w.remove));
+    ApplyTextEdits(text,
+                   StyleWriteEdits(text, w.selector, DeclarationsAsWritten(w), w.embedded, w.remove));
   return text;
 }
 
 std::string Describe(const std::string& text, const std::vector<StyleWrite>& writes) {
   std::string d = "text: [" + text + "]\n";
   for (const StyleWrite& w : writes)
-    d += "write [" + w.selector + "] [" + w.declarations + "] embedded " +
-         std::to_string(w.embedded) + " remove " + std::to_string(w.remove) + "\n";
+    d += "write [" + std::string(w.selector) + "] [" + std::string(w.declarations) +
+         "] embedded " + std::to_string(w.embedded) + " remove " + std::to_string(w.remove) +
+         " one line " + std::to_string(w.oneLine) + "\n";
   return d;
 }
 
@@ -63,7 +65,7 @@ TEST(StyleWriteBatch, MatchesWritingOneRuleAfterAnother) {
                                               "td}",     "\r\nP", "BODY", "<STYLE", ">"};
   const std::vector<std::string> bodies = {"\ta:b;", "", "{", "}", "c:d;\r\n\te:f;", "td {x}"};
   std::mt19937 random(20261123);
-  auto pick = [&random](const auto& v) { return v[random() % v.size()]; };
+  auto pick = [&random](const auto& v) -> const auto& { return v[random() % v.size()]; };
   for (int round = 0; round < 4000; ++round) {
     std::string text;
     const int length = static_cast<int>(random() % 40);
@@ -71,7 +73,8 @@ TEST(StyleWriteBatch, MatchesWritingOneRuleAfterAnother) {
     std::vector<StyleWrite> writes;
     const int count = 1 + static_cast<int>(random() % 6);
     for (int i = 0; i < count; ++i)
-      writes.push_back({pick(selectors), pick(bodies), random() % 4 != 0, random() % 3 == 0});
+      writes.push_back(
+          {pick(selectors), pick(bodies), random() % 4 != 0, random() % 3 == 0, random() % 2 == 0});
     const std::string expected = OneByOne(text, writes);
     const std::string actual = WriteStyleDefinitions(text, writes);
     ASSERT_EQ(actual, expected) << Describe(text, writes);
@@ -80,11 +83,12 @@ TEST(StyleWriteBatch, MatchesWritingOneRuleAfterAnother) {
 
 TEST(StyleWriteBatch, RewritesEveryRuleOfALargeSheetInPlace) {
   std::string sheet = "<html><head><style>\r\n";
+  std::vector<std::string> names;
+  for (int i = 0; i < 300; ++i) names.push_back((i % 3 ? ".c" : "#i") + std::to_string(i));
   std::vector<StyleWrite> writes;
   for (int i = 0; i < 300; ++i) {
-    const std::string name = (i % 3 ? ".c" : "#i") + std::to_string(i);
-    sheet += name + " {color:red}\r\n";
-    writes.push_back({name, "\tcolor:blue;", true, i % 7 == 0});
+    sheet += names[i] + " {color:red}\r\n";
+    writes.push_back({names[i], "color:blue; z:1;", true, i % 7 == 0, true});
   }
   sheet += "</style></head><body>.c1 {</body></html>";
   writes.push_back({".added", "\tz:1;", true, false});
