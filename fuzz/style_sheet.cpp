@@ -13,8 +13,8 @@ namespace {
 
 std::string OneByOne(std::string text, const std::vector<StyleWrite>& writes) {
   for (const StyleWrite& w : writes)
-    ApplyTextEdits(text,
-                   StyleWriteEdits(text, w.selector, DeclarationsAsWritten(w), w.embedded, w.remove));
+    ApplyTextEdits(
+        text, StyleWriteEdits(text, w.selector, DeclarationsAsWritten(w), w.embedded, w.remove));
   return text;
 }
 

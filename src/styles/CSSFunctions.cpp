@@ -48,7 +48,9 @@ std::uint64_t BytesEqual(std::uint64_t x, char c) {
   return (y - kOnes) & ~y & kHigh;
 }
 
-bool IsOneLineSpecial(char c) { return c == '\t' || c == '\r' || c == '\n' || c == ';'; }
+bool IsOneLineSpecial(char c) {
+  return c == '\t' || c == '\r' || c == '\n' || c == ';';
+}
 
 // How far from `p` the next tab, line break or semicolon stands, eight bytes at a step.
 std::size_t OrdinaryRun(const char* p, const char* end) {
@@ -70,9 +72,8 @@ std::size_t OrdinaryRun(const char* p, const char* end) {
 // other bytes are copied whole: this runs over every rule of a sheet, both ways.
 void AppendOneLine(std::string& out, std::string_view s, std::string_view afterSemicolon) {
   std::size_t semicolons = 0;
-  for (const char* p = s.data(), *end = p + s.size();
-       (p = static_cast<const char*>(std::memchr(p, ';', static_cast<std::size_t>(end - p))));
-       ++p)
+  for (const char *p = s.data(), *end = p + s.size();
+       (p = static_cast<const char*>(std::memchr(p, ';', static_cast<std::size_t>(end - p)))); ++p)
     ++semicolons;
   const std::size_t kept = out.size();
   out.resize(kept + s.size() + semicolons * afterSemicolon.size());
@@ -239,9 +240,8 @@ std::vector<std::string> LoadStyleRules(StyleState& state, std::string_view shee
   std::vector<std::string> selectors;
   // Every rule has a "{": their count bounds the rules.
   std::size_t braces = 0;
-  for (const char* p = sheet.data(), *end = p + sheet.size();
-       (p = static_cast<const char*>(std::memchr(p, '{', static_cast<std::size_t>(end - p))));
-       ++p)
+  for (const char *p = sheet.data(), *end = p + sheet.size();
+       (p = static_cast<const char*>(std::memchr(p, '{', static_cast<std::size_t>(end - p)))); ++p)
     ++braces;
   selectors.reserve(braces);
   state.Styles.Reserve(state.Styles.Count() + braces);

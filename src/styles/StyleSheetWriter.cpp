@@ -13,7 +13,9 @@ namespace {
 
 constexpr auto npos = std::string::npos;
 
-char Upper(char c) { return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 32) : c; }
+char Upper(char c) {
+  return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 32) : c;
+}
 
 // `text` equals `upper` (upper case) when upper-cased.
 bool EqualsUpper(std::string_view text, std::string_view upper) {
@@ -34,8 +36,8 @@ std::size_t FindUpper(std::string_view text, std::string_view upper) {
   const char* const begin = text.data();
   const char* const last = begin + (text.size() - upper.size());  // the last place to try
   auto next = [last](const char* from, char c) {
-    const void* hit = from <= last ? std::memchr(from, c, static_cast<std::size_t>(last - from) + 1)
-                                   : nullptr;
+    const void* hit =
+        from <= last ? std::memchr(from, c, static_cast<std::size_t>(last - from) + 1) : nullptr;
     return hit ? static_cast<const char*>(hit) : nullptr;
   };
   const char* a = next(begin, first);
@@ -44,7 +46,10 @@ std::size_t FindUpper(std::string_view text, std::string_view upper) {
     const char* at = !b || (a && a < b) ? a : b;
     if (EqualsUpper(std::string_view(at + 1, rest.size()), rest))
       return static_cast<std::size_t>(at - begin);
-    if (at == a) a = next(a + 1, first); else b = next(b + 1, other);
+    if (at == a)
+      a = next(a + 1, first);
+    else
+      b = next(b + 1, other);
   }
   return npos;
 }
@@ -96,9 +101,9 @@ class Writer {
         id = static_cast<int>(selectors_.size());
         const char last = upper.back();
         if (last == ' ' || last == '\t' || last == '\r' || last == '\n') spacedEnds_ = true;
-        auto place = std::lower_bound(
-            lengths_.begin(), lengths_.end(), upper.size(),
-            [](const Length& l, std::size_t size) { return l.length < size; });
+        auto place =
+            std::lower_bound(lengths_.begin(), lengths_.end(), upper.size(),
+                             [](const Length& l, std::size_t size) { return l.length < size; });
         if (place == lengths_.end() || place->length != upper.size())
           place = lengths_.insert(place, Length{upper.size(), {}});
         const auto first = static_cast<unsigned char>(upper[0]);
@@ -241,7 +246,10 @@ class Writer {
       piece.size = to - from;
       piece.order = order += step;
       piece.prev = prev;
-      if (prev >= 0) pieces_[prev].next = p; else head_ = p;
+      if (prev >= 0)
+        pieces_[prev].next = p;
+      else
+        head_ = p;
       if (firstNew < 0) firstNew = p;
       prev = p;
       if (brace == npos) break;
@@ -249,7 +257,10 @@ class Writer {
       brace = range.find('{', brace + 1);
     }
     pieces_[prev].next = after;
-    if (after >= 0) pieces_[after].prev = prev; else tail_ = prev;
+    if (after >= 0)
+      pieces_[after].prev = prev;
+    else
+      tail_ = prev;
     return firstNew;
   }
 
@@ -369,7 +380,8 @@ class Writer {
     const bool first = from == head_;
     // Stretches before the frontier are indexed, and so must be new ones that stand there.
     const bool indexed = frontier_ < 0 || pieces_[from].order < pieces_[frontier_].order;
-    const bool frontierReplaced = frontier_ >= 0 && pieces_[from].order <= pieces_[frontier_].order &&
+    const bool frontierReplaced = frontier_ >= 0 &&
+                                  pieces_[from].order <= pieces_[frontier_].order &&
                                   pieces_[frontier_].order <= pieces_[to].order;
     const int before = pieces_[from].prev;
     const int after = pieces_[to].next;
@@ -441,8 +453,8 @@ class Writer {
 
   void WriteLiterally(const StyleWrite& w) {
     std::string text = Text();
-    ApplyTextEdits(text, StyleWriteEdits(text, w.selector, DeclarationsAsWritten(w), w.embedded,
-                                         w.remove));
+    ApplyTextEdits(
+        text, StyleWriteEdits(text, w.selector, DeclarationsAsWritten(w), w.embedded, w.remove));
     rebuilt_ = std::move(text);
     Build(rebuilt_);
   }
@@ -461,16 +473,16 @@ class Writer {
   std::vector<Piece> pieces_;
   int head_ = -1;
   int tail_ = -1;
-  int frontier_ = -1;  // the first stretch not yet indexed, or -1 when all are
+  int frontier_ = -1;        // the first stretch not yet indexed, or -1 when all are
   std::size_t reserve_ = 0;  // what the writes add at most, beyond the stretches they keep
-  std::string scratch_;  // the text of a replacement, before it joins the store
+  std::string scratch_;      // the text of a replacement, before it joins the store
 
   std::vector<std::string> selectors_;  // upper-cased, by id
   struct Slot {
     int id = -1;
     std::uint32_t check = 0;
   };
-  std::vector<Slot> table_;             // selector ids by backward hash
+  std::vector<Slot> table_;  // selector ids by backward hash
   // The lengths of the selectors, ascending, each with the bytes its selectors begin with:
   // most places need no look-up at all.
   struct Length {
@@ -478,8 +490,8 @@ class Writer {
     std::uint64_t firsts[4];
   };
   std::vector<Length> lengths_;
-  std::vector<int> writeIds_;           // by write, -1 for a selector written the slow way
-  std::vector<int> firstHolder_;        // by selector id: its first entry, or -1
+  std::vector<int> writeIds_;     // by write, -1 for a selector written the slow way
+  std::vector<int> firstHolder_;  // by selector id: its first entry, or -1
   std::vector<HolderEntry> holderEntries_;
   std::vector<std::size_t> ends_;
   bool spacedEnds_ = false;

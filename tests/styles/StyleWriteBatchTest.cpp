@@ -13,17 +13,17 @@ namespace {
 
 std::string OneByOne(std::string text, const std::vector<StyleWrite>& writes) {
   for (const StyleWrite& w : writes)
-    ApplyTextEdits(text,
-                   StyleWriteEdits(text, w.selector, DeclarationsAsWritten(w), w.embedded, w.remove));
+    ApplyTextEdits(
+        text, StyleWriteEdits(text, w.selector, DeclarationsAsWritten(w), w.embedded, w.remove));
   return text;
 }
 
 std::string Describe(const std::string& text, const std::vector<StyleWrite>& writes) {
   std::string d = "text: [" + text + "]\n";
   for (const StyleWrite& w : writes)
-    d += "write [" + std::string(w.selector) + "] [" + std::string(w.declarations) +
-         "] embedded " + std::to_string(w.embedded) + " remove " + std::to_string(w.remove) +
-         " one line " + std::to_string(w.oneLine) + "\n";
+    d += "write [" + std::string(w.selector) + "] [" + std::string(w.declarations) + "] embedded " +
+         std::to_string(w.embedded) + " remove " + std::to_string(w.remove) + " one line " +
+         std::to_string(w.oneLine) + "\n";
   return d;
 }
 
@@ -65,7 +65,9 @@ TEST(StyleWriteBatch, MatchesWritingOneRuleAfterAnother) {
                                               "td}",     "\r\nP", "BODY", "<STYLE", ">"};
   const std::vector<std::string> bodies = {"\ta:b;", "", "{", "}", "c:d;\r\n\te:f;", "td {x}"};
   std::mt19937 random(20261123);
-  auto pick = [&random](const auto& v) -> const auto& { return v[random() % v.size()]; };
+  auto pick = [&random](const auto& v) -> const auto& {
+    return v[random() % v.size()];
+  };
   for (int round = 0; round < 4000; ++round) {
     std::string text;
     const int length = static_cast<int>(random() % 40);
