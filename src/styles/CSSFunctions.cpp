@@ -48,56 +48,40 @@ std::uint64_t BytesEqual(std::uint64_t x, char c) {
   return (y - kOnes) & ~y & kHigh;
 }
 
-bool IsOneLineSpecial(char c) {
-  return c == '\t' || c == '\r' || c == '\n' || c == ';';
-}
-
-// How far from `p` the next tab, line break or semicolon stands, eight bytes at a step.
-std::size_t OrdinaryRun(const char* p, const char* end) {
-  const char* at = p;
-  while (end - at >= 8) {
-    std::uint64_t x;
-    std::memcpy(&x, at, 8);
-    const std::uint64_t hit =
-        BytesEqual(x, '\t') | BytesEqual(x, '\r') | BytesEqual(x, '\n') | BytesEqual(x, ';');
-    if (hit) return static_cast<std::size_t>(at - p) + std::countr_zero(hit) / 8;
-    at += 8;
-  }
-  while (at < end && !IsOneLineSpecial(*at)) ++at;
-  return static_cast<std::size_t>(at - p);
-}
+bool IsLineBreakOrTab(char c) { return c == '\t' || c == '\r' || c == '\n'; }
 
 // The one-line form of declarations added to `out`: tabs and line breaks out, and the first
-// blank behind each semicolon dropped; `afterSemicolon` follows every semicolon. Runs of
-// other bytes are copied whole: this runs over every rule of a sheet, both ways.
+// blank behind each semicolon dropped; `afterSemicolon` follows every semicolon. Eight
+// bytes at a step: a step stores all eight and keeps those before the first byte to act on.
+// This runs over every rule of a sheet, both ways.
 void AppendOneLine(std::string& out, std::string_view s, std::string_view afterSemicolon) {
-  std::size_t semicolons = 0;
-  for (const char *p = s.data(), *end = p + s.size();
-       (p = static_cast<const char*>(std::memchr(p, ';', static_cast<std::size_t>(end - p)))); ++p)
-    ++semicolons;
   const std::size_t kept = out.size();
-  out.resize(kept + s.size() + semicolons * afterSemicolon.size());
+  // Room for a semicolon in every byte, and for the last step's store.
+  out.resize(kept + s.size() * (1 + afterSemicolon.size()) + 8);
   char* to = out.data() + kept;
-  bool dropBlank = false;
   const char* p = s.data();
   const char* const end = p + s.size();
   while (p < end) {
-    const char* run = p;
-    p += OrdinaryRun(p, end);
-    if (run < p) {
-      if (dropBlank && *run == ' ') ++run;
-      dropBlank = false;
-      std::memcpy(to, run, static_cast<std::size_t>(p - run));
-      to += p - run;
+    if (end - p >= 8) {
+      std::uint64_t x;
+      std::memcpy(&x, p, 8);
+      std::memcpy(to, &x, 8);
+      const std::uint64_t hit =
+          BytesEqual(x, '\t') | BytesEqual(x, '\r') | BytesEqual(x, '\n') | BytesEqual(x, ';');
+      const std::size_t ordinary = hit ? std::countr_zero(hit) / 8 : 8;
+      p += ordinary;
+      to += ordinary;
+      if (!hit) continue;
+    } else if (!IsLineBreakOrTab(*p) && *p != ';') {
+      *to++ = *p++;
+      continue;
     }
-    if (p == end) break;
-    if (*p == ';') {
-      *to++ = ';';
-      std::memcpy(to, afterSemicolon.data(), afterSemicolon.size());
-      to += afterSemicolon.size();
-      dropBlank = true;
-    }
-    ++p;
+    if (*p++ != ';') continue;  // a tab or line break goes
+    *to++ = ';';
+    for (const char c : afterSemicolon) *to++ = c;
+    // The first blank behind it goes too, line breaks and tabs between not counting.
+    while (p < end && IsLineBreakOrTab(*p)) ++p;
+    if (p < end && *p == ' ') ++p;
   }
   out.resize(static_cast<std::size_t>(to - out.data()));
 }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "core/TestApp.h"
 #include "styles/CSSFunctions.h"
 #include "styles/StyleState.h"
@@ -126,6 +128,44 @@ TEST(StyleSheetText, FormatLaysDeclarationsOutByMode) {
   d = "";
   FormatStyleDefinition(d, kStyleForDocument);
   EXPECT_EQ(d, "\t");
+}
+
+// The layouts spelled out step by step: line breaks and tabs out, then each "; " closed up
+// (left to right, one blank each), then the semicolons spread by mode.
+std::string ReplaceEach(const std::string& s, const std::string& from, const std::string& to) {
+  std::string out;
+  std::size_t at = 0;
+  for (std::size_t hit; (hit = s.find(from, at)) != std::string::npos; at = hit + from.size())
+    out += s.substr(at, hit - at) + to;
+  return out + s.substr(at);
+}
+
+std::string LaidOutStepByStep(const std::string& text, int mode) {
+  std::string d;
+  for (char c : text)
+    if (c != '\t' && c != '\r' && c != '\n') d += c;
+  d = ReplaceEach(d, "; ", ";");
+  if (mode == kStyleForDisplay) return "\r\n" + ReplaceEach("    " + d, ";", ";\r\n    ");
+  if (mode == kStyleForDocument) {
+    d = ReplaceEach("\t" + d, ";", ";\r\n\t");
+    if (d.size() >= 3) d.resize(d.size() - 3);
+  }
+  return d;
+}
+
+TEST(StyleSheetText, LayoutsMatchTheStepByStepDefinitionOnAnyText) {
+  const char alphabet[] = {';', ' ', '\t', '\r', '\n', 'a', ':', '\0', '\xff', '{'};
+  std::mt19937 random(7);
+  for (int round = 0; round < 20000; ++round) {
+    std::string text;
+    const auto length = random() % 40;
+    for (unsigned i = 0; i < length; ++i) text += alphabet[random() % sizeof alphabet];
+    for (int mode : {kStyleOneLine, kStyleForDisplay, kStyleForDocument}) {
+      std::string d = text;
+      FormatStyleDefinition(d, mode);
+      ASSERT_EQ(d, LaidOutStepByStep(text, mode)) << "mode " << mode << " text [" << text << "]";
+    }
+  }
 }
 
 std::string Written(std::string text, const std::string& selector, const std::string& decl,
