@@ -224,9 +224,7 @@ std::vector<std::string> LoadStyleRules(StyleState& state, std::string_view shee
   std::vector<std::string> selectors;
   // Every rule has a "{": their count bounds the rules.
   std::size_t braces = 0;
-  for (const char *p = sheet.data(), *end = p + sheet.size();
-       (p = static_cast<const char*>(std::memchr(p, '{', static_cast<std::size_t>(end - p)))); ++p)
-    ++braces;
+  for (std::size_t at = sheet.find('{'); at != npos; at = sheet.find('{', at + 1)) ++braces;
   selectors.reserve(braces);
   state.Styles.Reserve(state.Styles.Count() + braces);
   const BlockAllocator<CSSstyle> blocks(std::make_shared<StyleBlocks>());

@@ -81,6 +81,7 @@ TEST(StyleBadInput, TenMegabytesOnOneLineAreReadAndWrittenBack) {
   StyleState none;
   EXPECT_TRUE(LoadStyleRules(none, "x {" + std::string(10'000'000, 'y')).empty());
   EXPECT_TRUE(LoadStyleRules(none, std::string(10'000'000, ';')).empty());
+  EXPECT_TRUE(LoadStyleRules(none, std::string_view()).empty());  // a page without a sheet
 }
 
 }  // namespace
