@@ -194,7 +194,7 @@ class StyleBlocks {
   }
 
  private:
-  // Below the size the heap maps afresh from the system each time.
+  // Under the size for which the heap takes fresh pages from the system every time.
   static constexpr std::size_t kBlockSize = 60 * 1024;
   std::vector<std::unique_ptr<std::byte[]>> blocks_;
   std::size_t used_ = 0;
