@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <cstring>
 
-#include "core/TextServices.h"
 #include "styles/CSSFunctions.h"
 
 namespace tessarine {
@@ -17,24 +16,24 @@ char Upper(char c) {
   return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 32) : c;
 }
 
-// `text` equals `upper` (upper case) when upper-cased.
-bool EqualsUpper(std::string_view text, std::string_view upper) {
-  if (text.size() != upper.size()) return false;
-  for (std::size_t i = 0; i < text.size(); ++i)
-    if (Upper(text[i]) != upper[i]) return false;
+// The two texts are the same but for ASCII case.
+bool EqualsNoCase(std::string_view a, std::string_view b) {
+  if (a.size() != b.size()) return false;
+  for (std::size_t i = 0; i < a.size(); ++i)
+    if (Upper(a[i]) != Upper(b[i])) return false;
   return true;
 }
 
-// UCase(text).find(upper), without the upper-cased copy. Candidates for the first byte
-// are found with memchr, in both cases for a letter.
-std::size_t FindUpper(std::string_view text, std::string_view upper) {
-  if (upper.empty()) return 0;
-  if (upper.size() > text.size()) return npos;
-  const char first = upper[0];
+// UCase(text).find(UCase(needle)), without upper-cased copies. Candidates for the first
+// byte are found with memchr, in both cases for a letter.
+std::size_t FindNoCase(std::string_view text, std::string_view needle) {
+  if (needle.empty()) return 0;
+  if (needle.size() > text.size()) return npos;
+  const char first = Upper(needle[0]);
   const char other = (first >= 'A' && first <= 'Z') ? static_cast<char>(first + 32) : first;
-  const std::string_view rest = upper.substr(1);
+  const std::string_view rest = needle.substr(1);
   const char* const begin = text.data();
-  const char* const last = begin + (text.size() - upper.size());  // the last place to try
+  const char* const last = begin + (text.size() - needle.size());  // the last place to try
   auto next = [last](const char* from, char c) {
     const void* hit =
         from <= last ? std::memchr(from, c, static_cast<std::size_t>(last - from) + 1) : nullptr;
@@ -44,7 +43,7 @@ std::size_t FindUpper(std::string_view text, std::string_view upper) {
   const char* b = other == first ? nullptr : next(begin, other);
   while (a || b) {
     const char* at = !b || (a && a < b) ? a : b;
-    if (EqualsUpper(std::string_view(at + 1, rest.size()), rest))
+    if (EqualsNoCase(std::string_view(at + 1, rest.size()), rest))
       return static_cast<std::size_t>(at - begin);
     if (at == a)
       a = next(a + 1, first);
@@ -62,7 +61,7 @@ std::size_t FindUpper(std::string_view text, std::string_view upper) {
 struct Piece {
   std::uint64_t order = 0;  // grows along the text
   std::size_t at = 0;
-  std::size_t size = 0;
+  std::uint32_t size = 0;  // larger texts are written rule after rule
   int prev = -1;
   int next = -1;
   bool added = false;  // a range of the store, not of the text
@@ -80,9 +79,10 @@ constexpr std::uint64_t kHashStart = 14695981039346656037ull;
 std::uint64_t HashStep(std::uint64_t h, char c) {
   return (h ^ static_cast<unsigned char>(c)) * 1099511628211ull;
 }
+// In any case: the bytes are upper-cased as they are hashed.
 std::uint64_t BackwardHash(std::string_view s) {
   std::uint64_t h = kHashStart;
-  for (std::size_t i = s.size(); i > 0; --i) h = HashStep(h, s[i - 1]);
+  for (std::size_t i = s.size(); i > 0; --i) h = HashStep(h, Upper(s[i - 1]));
   return h;
 }
 
@@ -90,25 +90,25 @@ class Writer {
  public:
   Writer(std::string_view text, const std::vector<StyleWrite>& writes) {
     for (const StyleWrite& w : writes) {
-      std::string upper = UCase(w.selector);
-      if (!Indexable(upper)) {
+      const std::string_view selector = w.selector;
+      if (!Indexable(selector)) {
         writeIds_.push_back(-1);
         continue;
       }
-      const std::uint64_t hash = BackwardHash(upper);
-      int id = Lookup(upper, hash);
+      const std::uint64_t hash = BackwardHash(selector);
+      int id = Lookup(selector, hash);
       if (id < 0) {
         id = static_cast<int>(selectors_.size());
-        const char last = upper.back();
+        const char last = selector.back();
         if (last == ' ' || last == '\t' || last == '\r' || last == '\n') spacedEnds_ = true;
         auto place =
-            std::lower_bound(lengths_.begin(), lengths_.end(), upper.size(),
+            std::lower_bound(lengths_.begin(), lengths_.end(), selector.size(),
                              [](const Length& l, std::size_t size) { return l.length < size; });
-        if (place == lengths_.end() || place->length != upper.size())
-          place = lengths_.insert(place, Length{upper.size(), {}});
-        const auto first = static_cast<unsigned char>(upper[0]);
+        if (place == lengths_.end() || place->length != selector.size())
+          place = lengths_.insert(place, Length{selector.size(), {}});
+        const auto first = static_cast<unsigned char>(Upper(selector[0]));
         place->firsts[first / 64] |= std::uint64_t{1} << (first % 64);
-        selectors_.push_back(std::move(upper));
+        selectors_.push_back(selector);
         Insert(id, hash);
       }
       writeIds_.push_back(id);
@@ -174,8 +174,8 @@ class Writer {
   };
 
   // Selectors that the stretches cannot hold are written the slow way.
-  static bool Indexable(const std::string& upper) {
-    return !upper.empty() && upper.find('{') == npos;
+  static bool Indexable(std::string_view selector) {
+    return !selector.empty() && selector.find('{') == npos;
   }
 
   std::string_view TextOf(int p) const {
@@ -207,7 +207,7 @@ class Writer {
     const std::size_t mask = table_.size() - 1;
     const auto check = static_cast<std::uint32_t>(hash >> 32);
     for (std::size_t slot = hash & mask; table_[slot].id >= 0; slot = (slot + 1) & mask)
-      if (table_[slot].check == check && EqualsUpper(text, selectors_[table_[slot].id]))
+      if (table_[slot].check == check && EqualsNoCase(text, selectors_[table_[slot].id]))
         return table_[slot].id;
     return -1;
   }
@@ -243,7 +243,7 @@ class Writer {
       Piece& piece = pieces_.emplace_back();
       piece.added = added;
       piece.at = at + from;
-      piece.size = to - from;
+      piece.size = static_cast<std::uint32_t>(to - from);
       piece.order = order += step;
       piece.prev = prev;
       if (prev >= 0)
@@ -313,7 +313,7 @@ class Writer {
       const auto first = static_cast<unsigned char>(Upper(t[end - length]));
       if (!(l.firsts[first / 64] >> (first % 64) & 1)) continue;
       const int id = Lookup(t.substr(end - length, length), h);
-      if (id >= 0 && FindUpper(t, selectors_[id]) == end - length) {
+      if (id >= 0 && FindNoCase(t, selectors_[id]) == end - length) {
         holderEntries_.push_back({p, firstHolder_[id], end - length});
         firstHolder_[id] = static_cast<int>(holderEntries_.size() - 1);
       }
@@ -420,7 +420,7 @@ class Writer {
       return insertion_;
     }
     for (int p = head_; p >= 0; p = pieces_[p].next) {
-      const std::size_t tag = FindUpper(TextOf(p), "<STYLE");
+      const std::size_t tag = FindNoCase(TextOf(p), "<STYLE");
       if (tag == npos) continue;
       insertion_.hasTag = true;
       for (std::size_t gt = TextOf(p).find('>', tag); p >= 0;
@@ -477,7 +477,7 @@ class Writer {
   std::size_t reserve_ = 0;  // what the writes add at most, beyond the stretches they keep
   std::string scratch_;      // the text of a replacement, before it joins the store
 
-  std::vector<std::string> selectors_;  // upper-cased, by id
+  std::vector<std::string_view> selectors_;  // the writes' own, by id
   struct Slot {
     int id = -1;
     std::uint32_t check = 0;
@@ -506,6 +506,13 @@ std::string DeclarationsAsWritten(const StyleWrite& w) {
 }
 
 std::string WriteStyleDefinitions(std::string_view text, const std::vector<StyleWrite>& writes) {
+  if (text.size() > UINT32_MAX / 2) {
+    std::string written(text);
+    for (const StyleWrite& w : writes)
+      ApplyTextEdits(written, StyleWriteEdits(written, w.selector, DeclarationsAsWritten(w),
+                                              w.embedded, w.remove));
+    return written;
+  }
   Writer writer(text, writes);
   for (std::size_t i = 0; i < writes.size(); ++i) writer.Write(writes[i], i);
   return writer.Text();
