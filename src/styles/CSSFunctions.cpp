@@ -230,6 +230,8 @@ std::vector<std::string> LoadStyleRules(StyleState& state, std::string_view shee
   const BlockAllocator<CSSstyle> blocks(std::make_shared<StyleBlocks>());
   ForEachStyleRule(sheet, [&](std::string_view selectorText, std::string_view declarations) {
     std::string oneLine;
+    // Room for a declaration or two more, as a changed rule is written over its old text.
+    oneLine.reserve(declarations.size() + 40);
     AppendOneLine(oneLine, declarations, {});
     std::string selector = SelectorText(selectorText);
     ParseInto(state, std::allocate_shared<CSSstyle>(blocks), selector, std::move(oneLine));
