@@ -1,5 +1,8 @@
 #include "styles/CSSstyle.h"
 
+#include <cstring>
+#include <string_view>
+
 #include "core/TextServices.h"
 
 namespace tessarine {
@@ -14,44 +17,61 @@ std::string DecorationText(const std::string& textDecoration) {
 }
 
 void CSSstyle::GetStyleDefinition() {
-  // Written over the old text, so its room is used again: a changed rule is rarely longer.
-  std::string& d = Definition;
-  d.clear();
-  auto value = [&d](std::string_view name, const std::string& v) {
-    if (v.empty()) return;
-    d.append(name).append(v);
-    d += ';';
+  // The three flags write a fixed value: the value read is not kept.
+  static const std::string kBold = "bold", kItalic = "italic", kSmallCaps = "small-caps";
+  const std::string decoration =
+      TextDecoration.empty() ? std::string() : DecorationText(TextDecoration);
+  struct Part {
+    std::string_view name;
+    const std::string& value;
+    const std::string* unit;
   };
-  auto measure = [&d](std::string_view name, const std::string& number, const std::string& unit) {
-    if (number.empty()) return;
-    d.append(name).append(number).append(unit);
-    d += ';';
+  const std::string none;
+  const Part parts[] = {
+      {"font-family:", FontFamily, nullptr},
+      {"font-size:", FontSize, &FontSizeUnit},
+      {"color:", Color, nullptr},
+      {"text-transform:", TextTransform, nullptr},
+      {"font-weight:", FontWeight.empty() ? none : kBold, nullptr},
+      {"font-style:", FontStyle.empty() ? none : kItalic, nullptr},
+      {"font-variant:", FontVariant.empty() ? none : kSmallCaps, nullptr},
+      {"text-decoration:", decoration, nullptr},
+      {"vertical-align:", VerticalAlign, nullptr},
+      {"text-align:", TextAlign, nullptr},
+      {"text-indent:", TextIndent, &TextIndentUnit},
+      {"letter-spacing:", LetterSpacing, &LetterSpacingUnit},
+      {"line-height:", LineHeight, &LineHeightUnit},
+      {"background-color:", BackgroundColor, nullptr},
+      {"background-image:", BackgroundImage, nullptr},
+      {"background-repeat:", BackgroundRepeat, nullptr},
+      {"height:", StyleHeight, &StyleHeightUnit},
+      {"width:", StyleWidth, &StyleWidthUnit},
+      {"left:", StyleLeft, &StyleLeftUnit},
+      {"top:", StyleTop, &StyleTopUnit},
+      {"position:", Position, nullptr},
+      {"visibility:", Visibility, nullptr},
+      {"z-index:", ZIndex, nullptr},
   };
-  value("font-family:", FontFamily);
-  measure("font-size:", FontSize, FontSizeUnit);
-  value("color:", Color);
-  value("text-transform:", TextTransform);
-  // These three are on/off flags: the value read is not kept.
-  if (!FontWeight.empty()) d += "font-weight:bold;";
-  if (!FontStyle.empty()) d += "font-style:italic;";
-  if (!FontVariant.empty()) d += "font-variant:small-caps;";
-  if (!TextDecoration.empty()) value("text-decoration:", DecorationText(TextDecoration));
-  value("vertical-align:", VerticalAlign);
-  value("text-align:", TextAlign);
-  measure("text-indent:", TextIndent, TextIndentUnit);
-  measure("letter-spacing:", LetterSpacing, LetterSpacingUnit);
-  measure("line-height:", LineHeight, LineHeightUnit);
-  value("background-color:", BackgroundColor);
-  value("background-image:", BackgroundImage);
-  value("background-repeat:", BackgroundRepeat);
-  measure("height:", StyleHeight, StyleHeightUnit);
-  measure("width:", StyleWidth, StyleWidthUnit);
-  measure("left:", StyleLeft, StyleLeftUnit);
-  measure("top:", StyleTop, StyleTopUnit);
-  value("position:", Position);
-  value("visibility:", Visibility);
-  value("z-index:", ZIndex);
-  d += ExtraAttributes;
+  // Measured first, then written over the old text in one go: a changed rule is rarely
+  // longer than its room.
+  std::size_t size = ExtraAttributes.size();
+  for (const Part& p : parts)
+    if (!p.value.empty())
+      size += p.name.size() + p.value.size() + (p.unit ? p.unit->size() : 0) + 1;
+  Definition.resize(size);
+  char* to = Definition.data();
+  auto put = [&to](std::string_view text) {
+    std::memcpy(to, text.data(), text.size());
+    to += text.size();
+  };
+  for (const Part& p : parts) {
+    if (p.value.empty()) continue;
+    put(p.name);
+    put(p.value);
+    if (p.unit) put(*p.unit);
+    *to++ = ';';
+  }
+  put(ExtraAttributes);
 }
 
 }  // namespace tessarine
