@@ -43,6 +43,50 @@ void UpperCaseInto(const char* from, std::size_t size, char* to) {
   }
 }
 
+namespace {
+
+char Upper(char c) {
+  return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 32) : c;
+}
+
+}  // namespace
+
+bool EqualsNoCase(std::string_view a, std::string_view b) {
+  if (a.size() != b.size()) return false;
+  for (std::size_t i = 0; i < a.size(); ++i)
+    if (Upper(a[i]) != Upper(b[i])) return false;
+  return true;
+}
+
+std::size_t FindNoCase(std::string_view text, std::string_view needle, std::size_t from) {
+  if (from > text.size()) return std::string_view::npos;
+  if (needle.empty()) return from;
+  if (needle.size() > text.size() - from) return std::string_view::npos;
+  // Places to try are found with memchr, in both cases for a letter.
+  const char first = Upper(needle[0]);
+  const char other = (first >= 'A' && first <= 'Z') ? static_cast<char>(first + 32) : first;
+  const std::string_view rest = needle.substr(1);
+  const char* const begin = text.data();
+  const char* const last = begin + (text.size() - needle.size());  // the last place to try
+  auto next = [last](const char* at, char c) {
+    const void* hit =
+        at <= last ? std::memchr(at, c, static_cast<std::size_t>(last - at) + 1) : nullptr;
+    return static_cast<const char*>(hit);
+  };
+  const char* a = next(begin + from, first);
+  const char* b = other == first ? nullptr : next(begin + from, other);
+  while (a || b) {
+    const char* at = !b || (a && a < b) ? a : b;
+    if (EqualsNoCase(std::string_view(at + 1, rest.size()), rest))
+      return static_cast<std::size_t>(at - begin);
+    if (at == a)
+      a = next(a + 1, first);
+    else
+      b = next(b + 1, other);
+  }
+  return std::string_view::npos;
+}
+
 long long InStrNoCase(long long start, std::string_view text, std::string_view needle) {
   if (start < 1) start = 1;
   const auto lower = [](char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c; };

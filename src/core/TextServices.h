@@ -22,6 +22,11 @@ std::string LCase(std::string_view text);
 std::string UCase(std::string_view text);
 // UCase into `to` (which may be `from`), eight bytes at a step: pages are upper-cased whole.
 void UpperCaseInto(const char* from, std::size_t size, char* to);
+// The two texts are the same but for ASCII case.
+bool EqualsNoCase(std::string_view a, std::string_view b);
+// UCase(text).find(UCase(needle), from), without upper-cased copies of a text that can be a
+// whole page.
+std::size_t FindNoCase(std::string_view text, std::string_view needle, std::size_t from = 0);
 // One-based position of `needle` at or after one-based `start`, ignoring ASCII case; 0 when
 // absent.
 long long InStrNoCase(long long start, std::string_view text, std::string_view needle);

@@ -48,7 +48,9 @@ std::uint64_t BytesEqual(std::uint64_t x, char c) {
   return (y - kOnes) & ~y & kHigh;
 }
 
-bool IsLineBreakOrTab(char c) { return c == '\t' || c == '\r' || c == '\n'; }
+bool IsLineBreakOrTab(char c) {
+  return c == '\t' || c == '\r' || c == '\n';
+}
 
 // The one-line form of declarations added to `out`: tabs and line breaks out, and the first
 // blank behind each semicolon dropped; `afterSemicolon` follows every semicolon. Eight
@@ -84,27 +86,6 @@ void AppendOneLine(std::string& out, std::string_view s, std::string_view afterS
     if (p < end && *p == ' ') ++p;
   }
   out.resize(static_cast<std::size_t>(to - out.data()));
-}
-
-// The first place at or after `from` where `upper` (upper case, first byte not a letter)
-// stands in `text` in any case; the text is not copied, as a page can be large.
-std::size_t FindNoCase(std::string_view text, std::string_view upper, std::size_t from = 0) {
-  while (from + upper.size() <= text.size()) {
-    const void* hit = std::memchr(text.data() + from, upper[0], text.size() - from);
-    if (!hit) return npos;
-    const std::size_t at = static_cast<std::size_t>(static_cast<const char*>(hit) - text.data());
-    if (at + upper.size() > text.size()) return npos;
-    std::size_t i = 1;
-    while (i < upper.size()) {
-      char c = text[at + i];
-      if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 32);
-      if (c != upper[i]) break;
-      ++i;
-    }
-    if (i == upper.size()) return at;
-    from = at + 1;
-  }
-  return npos;
 }
 
 // Tabs and line breaks removed, then the blanks at both ends.

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "core/TextServices.h"
 #include "styles/CSSFunctions.h"
 
 namespace tessarine {
@@ -14,43 +15,6 @@ constexpr auto npos = std::string::npos;
 
 char Upper(char c) {
   return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 32) : c;
-}
-
-// The two texts are the same but for ASCII case.
-bool EqualsNoCase(std::string_view a, std::string_view b) {
-  if (a.size() != b.size()) return false;
-  for (std::size_t i = 0; i < a.size(); ++i)
-    if (Upper(a[i]) != Upper(b[i])) return false;
-  return true;
-}
-
-// UCase(text).find(UCase(needle)), without upper-cased copies. Candidates for the first
-// byte are found with memchr, in both cases for a letter.
-std::size_t FindNoCase(std::string_view text, std::string_view needle) {
-  if (needle.empty()) return 0;
-  if (needle.size() > text.size()) return npos;
-  const char first = Upper(needle[0]);
-  const char other = (first >= 'A' && first <= 'Z') ? static_cast<char>(first + 32) : first;
-  const std::string_view rest = needle.substr(1);
-  const char* const begin = text.data();
-  const char* const last = begin + (text.size() - needle.size());  // the last place to try
-  auto next = [last](const char* from, char c) {
-    const void* hit =
-        from <= last ? std::memchr(from, c, static_cast<std::size_t>(last - from) + 1) : nullptr;
-    return hit ? static_cast<const char*>(hit) : nullptr;
-  };
-  const char* a = next(begin, first);
-  const char* b = other == first ? nullptr : next(begin, other);
-  while (a || b) {
-    const char* at = !b || (a && a < b) ? a : b;
-    if (EqualsNoCase(std::string_view(at + 1, rest.size()), rest))
-      return static_cast<std::size_t>(at - begin);
-    if (at == a)
-      a = next(a + 1, first);
-    else
-      b = next(b + 1, other);
-  }
-  return npos;
 }
 
 // A stretch of the text from one "{" up to the next (the first stretch from the start).
